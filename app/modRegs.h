@@ -1,0 +1,77 @@
+#pragma once
+
+#include "app/program_state.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace wordhawk {
+
+/// Every scalar setting under its key's name, with its default. Members marked P are read from the
+/// file only when the program was started by the user; for automation they stay zero.
+struct Settings {
+    std::wstring Confirmation;
+    std::uint8_t SuggFromMain = 0;
+    std::wstring CustomDic = L"CUSTOM.DIC";
+    bool ScoreBox = false;
+    std::uint8_t IgnoreWebs = 1;
+    std::uint8_t IgnoreUCase = 1;
+    std::uint8_t IgnoreNumbers = 1;
+    std::uint8_t SortBy = 0;   // P
+    bool ClipType = false;     // P
+    bool CheckClip = false;    // P
+    bool SetClip = false;      // P
+    bool SaveBack = false;     // P
+    bool OpenSave = false;     // P
+    bool RemainOpen = false;   // P
+    int OpenWOptions = 0;
+    int ScoreValue = 80;
+    int Diversity = 2;
+    int ExtraDiversity = 0;
+    int PrefTab = 0;
+    std::wstring Language;
+
+    /// Names of the active custom dictionaries, in order; never empty once loaded.
+    std::vector<std::wstring> CustomDictionaries = {L"CUSTOM.DIC"};
+};
+
+namespace modRegs {
+
+inline constexpr std::wstring_view kSettingsSection = L"Settings";
+inline constexpr std::wstring_view kDictionariesSection = L"Dictionarys";
+inline constexpr std::wstring_view kRecentChangesSection = L"Recentchanges";
+
+/// One row of the settings table.
+struct SettingRow {
+    std::wstring_view key;
+    std::wstring_view default_text;
+    bool program_only;
+    /// Converts and stores the text of the value; a text that does not convert gives zero.
+    void (*assign)(Settings&, std::wstring_view text);
+    /// The value as it is written to the file.
+    std::wstring (*text)(const Settings&);
+};
+
+/// All rows, in the order of the struct.
+std::span<const SettingRow> Rows();
+/// The row of a key (without regard to case), or null.
+const SettingRow* FindRow(std::wstring_view key);
+
+/// Reads every setting and the custom dictionary list from the settings file.
+Settings LoadSettings(const ProgramState& state);
+
+/// Reads the active custom dictionaries; an empty section makes `settings.CustomDic` CUSTOM.DIC.
+void LoadCustomDictionaryList(const ProgramState& state, Settings& settings);
+
+/// Writes the list under keys "0", "1", ...; an empty list is written as CUSTOM.DIC. Keys of an
+/// earlier, longer list stay in the file and are read again at the next start.
+bool SaveCustomDictionaryList(const ProgramState& state, std::span<const std::wstring> names);
+
+/// Writes one value as it stands in `settings`. False when the file could not be written.
+bool SaveSetting(const ProgramState& state, const Settings& settings, std::wstring_view key);
+
+}  // namespace modRegs
+}  // namespace wordhawk

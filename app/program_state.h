@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/files.h"
+#include "platform/text.h"
+
+#include <string>
+
+namespace wordhawk {
+
+/// What start-up finds out and the language choice changes; one object, made by the composition
+/// root and passed by reference to whoever needs it.
+struct ProgramState {
+    bool InIDE = false;
+    /// Started as a program (true) or for automation (false).
+    bool ProgramMode = false;
+    bool WindowMode = false;
+    bool FoldersReady = false;
+
+    /// No trailing separator.
+    Path DataFolder;
+    Path SettingsFile;
+    /// Stands for the system's default locale; 0 asks the system.
+    int LocaleOverride = 0;
+    /// Current locale number in decimal, first the system's, then the interface language's.
+    std::wstring LanguageId;
+    /// "lang" and the locale number.
+    std::wstring LanguageFileBase;
+    /// Empty until the language is chosen: then only built-in texts are used.
+    Path LanguageFile;
+    Path LanguageDictFolder;
+    std::wstring HelpFile;
+
+    /// The document named on the command line, cleaned; empty when none.
+    std::wstring CommandFile;
+    /// Characters that split words, in flag order.
+    std::wstring Delimiters;
+    const AnsiCodePage* CodePage = &AnsiCodePage::Get(1252);
+
+    /// Set by a progress display's cancel, cleared when a check pass starts.
+    bool CancelFlag = false;
+    /// Asks Add All and import to stop; cleared when they start.
+    bool StopFlag = false;
+
+    Path CustomFolder() const { return DataFolder / "Dictionarys" / "Custom"; }
+    Path ResourcesFolder() const { return DataFolder / "Resources"; }
+};
+
+}  // namespace wordhawk

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace wordhawk {
+
+/// Display of a long operation and the way to stop it. The default does nothing and never cancels,
+/// so an operation can always be given one.
+class Progress {
+  public:
+    virtual ~Progress() = default;
+    virtual void Show(std::wstring_view /*title*/) {}
+    virtual void Hide() {}
+    virtual void SetCaption(std::wstring_view /*caption*/) {}
+    virtual void SetRange(std::uint64_t /*maximum*/) {}
+    virtual void SetPosition(std::uint64_t /*position*/) {}
+    /// Lets waiting messages through and says whether the user asked to stop.
+    virtual bool YieldAndAskCancel() { return false; }
+};
+
+}  // namespace wordhawk

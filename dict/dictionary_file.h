@@ -1,0 +1,115 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace wordhawk {
+
+/// Which patterns count as a hit: a main file knows "word,key" lines only, a custom file also bare
+/// words, except on its first line.
+enum class EntryForms { KeyedOnly, KeyedAndBare };
+
+/// One candidate word of a dictionary file as the suggestion search sees it.
+struct Candidate {
+    std::uint32_t offset;  ///< of the word in Bytes()
+    std::uint16_t length;  ///< in bytes
+    std::int32_t key;      ///< never 0 except where `inherits_key`
+    bool inherits_key;     ///< three or more fields before any line that sets a key: see CandidateList
+};
+
+/// All candidates of one file in file order, with what the search filters on held in columns of
+/// their own so that most words are passed over without touching their bytes.
+struct CandidateList {
+    std::vector<std::uint32_t> offsets;
+    std::vector<std::uint16_t> lengths;
+    std::vector<std::int32_t> keys;
+    /// Set of byte values of the word folded into 64 bits (see LetterMask).
+    std::vector<std::uint64_t> masks;
+    /// Candidates [0, leading_inherits) stand before the first line that sets a key; each takes the
+    /// key that the search carries over from the dictionary before, or, when that is 0,
+    /// `leading_key`.
+    std::size_t leading_inherits = 0;
+    std::int32_t leading_key = 0;
+    /// Key in force after the last line; 0 when the file has no candidate.
+    std::int32_t last_key = 0;
+
+    std::size_t size() const { return offsets.size(); }
+};
+
+/// One bit per byte value (folded to 64): equal bytes set equal bits.
+std::uint64_t LetterMask(std::string_view bytes);
+
+/// A dictionary file in memory: its bytes, and an index of its entries built when first asked. Not
+/// safe to share between threads while the index is being built.
+class DictionaryFile {
+  public:
+    DictionaryFile() = default;
+    explicit DictionaryFile(std::string bytes) : bytes_(std::move(bytes)) {}
+
+    const std::string& Bytes() const { return bytes_; }
+
+    /// Whether the lower-cased ANSI `word` is an entry, exactly as the byte patterns "\nword," (any
+    /// place), "word," (first byte) and, for bare forms, "\nword\r" would find it.
+    bool Contains(std::string_view word, EntryForms forms) const;
+
+    /// The same for a word without comma, CR and LF whose HashBytes is already known.
+    bool ContainsHashed(std::string_view word, std::uint32_t hash, EntryForms forms) const;
+
+    static std::uint32_t HashBytes(std::string_view word);
+    /// Streaming form: start with kHashSeed, add byte by byte, then FinishHash.
+    static constexpr std::uint32_t kHashSeed = 2166136261u;
+    static constexpr std::uint32_t AddToHash(std::uint32_t hash, unsigned char byte) {
+        return (hash ^ byte) * 16777619u;
+    }
+    static constexpr std::uint32_t FinishHash(std::uint32_t hash) { return hash ^ (hash >> 15); }
+
+    /// Candidates for suggestions; `page` gives keys to lines without one.
+    const CandidateList& Candidates(const AnsiCodePage& page) const;
+
+    /// Number of entries (non-empty lines).
+    std::size_t CountEntries() const;
+
+  private:
+    struct Slot {
+        std::uint32_t hash;
+        std::uint32_t offset_and_form;  // 0: free; else 1 + offset * 2 + bare
+        std::uint32_t length;
+    };
+    void BuildIndex() const;
+
+    std::string bytes_;
+    mutable bool indexed_ = false;
+    mutable std::vector<Slot> slots_;
+    mutable std::optional<CandidateList> candidates_;
+};
+
+/// "word,key\r\n" in the bytes of the page; `word` is lower-cased first.
+std::string EntryLine(std::wstring_view word, const AnsiCodePage& page);
+
+/// Sorts decoded lines ascending by their UTF-16 codes. Returns 1 when the range is not within the
+/// lines (the caller then gives up without writing), else 0.
+int SortLines(std::vector<std::wstring>& lines, std::ptrdiff_t first, std::ptrdiff_t last);
+
+/// Byte edits of a whole file; none touches the disk. Lines may end in CR LF or LF, results end in
+/// CR LF and hold no empty line.
+namespace dictionary_edit {
+
+/// Whether "\n" + entry line stands in the file: an entry on the first line is not seen.
+bool HasEntryBelowFirstLine(std::string_view bytes, std::string_view entry_line);
+
+/// Adds entry lines (each ending in CR LF) in order, each unless it is already there, then sorts.
+/// None when nothing was added: the file is then to be left untouched.
+std::optional<std::string> WithEntries(std::string_view bytes,
+                                       const std::vector<std::string>& entry_lines,
+                                       const AnsiCodePage& page);
+
+/// Removes the first line equal to `entry` (no line end). None when there is no such line.
+std::optional<std::string> WithoutEntry(std::string_view bytes, std::string_view entry);
+
+}  // namespace dictionary_edit
+}  // namespace wordhawk

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "app/delimiter_flags.h"
+#include "app/progress.h"
+#include "dict/dictionary_store.h"
+#include "platform/ui_services.h"
+
+namespace wordhawk {
+
+/// Flags of the store that the import options show, and those that they save: one apart.
+inline constexpr int kFirstShownImportFlag = 249;
+inline constexpr int kFirstSavedImportFlag = 250;
+
+/// Makes the custom dictionary `file_name` from the words of `source` that the user's dictionaries
+/// do not have (as flags 249 and 250 say) and returns the number of words added. An empty or
+/// unreadable source is reported through `ui` and gives 0. Errors: the new file could not be
+/// written.
+Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& flags,
+                             const Path& source, std::wstring_view file_name, Progress& progress,
+                             UiServices& ui);
+
+}  // namespace wordhawk

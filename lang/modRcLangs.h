@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/program_state.h"
+#include "platform/ui_services.h"
+
+#include <string>
+#include <vector>
+
+namespace wordhawk::modRcLangs {
+
+/// Chooses the interface language from setting "Language", else from `state.LanguageId`; generates
+/// a missing language file from the built-in texts; falls back to 1033. Sets the language members
+/// of `state`, stores the choice and returns the locale number in force.
+std::wstring InitLanguage(ProgramState& state, UiServices& ui);
+
+/// Recomputes `state.LanguageFile` from data folder, LanguageId and LanguageFileBase.
+void SetLanguageFilePath(ProgramState& state);
+
+/// Sets `state.LanguageFileBase` for the locale and says whether its language file exists.
+bool LanguageFileExists(ProgramState& state, std::wstring_view locale);
+
+struct LanguageEntry {
+    std::wstring name;
+    int locale;
+};
+
+/// The installed interface languages: numeric folders that hold their language file.
+std::vector<LanguageEntry> FillLanguageList(ProgramState& state);
+
+}  // namespace wordhawk::modRcLangs

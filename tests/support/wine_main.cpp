@@ -1,0 +1,18 @@
+#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+
+#ifdef _WIN32
+extern "C" __declspec(dllimport) unsigned __stdcall SetErrorMode(unsigned mode);
+#endif
+
+// A crash must end the run with an error code, never wait behind an invisible box.
+int main(int argc, char** argv) {
+#ifdef _WIN32
+    SetErrorMode(0x0001 | 0x0002 | 0x8000);
+    _set_abort_behavior(0, _WRITE_ABORT_MSG | _CALL_REPORTFAULT);
+#endif
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}
