@@ -14,21 +14,16 @@ namespace wordhawk {
 /// words, except on its first line.
 enum class EntryForms { KeyedOnly, KeyedAndBare };
 
-/// One candidate word of a dictionary file as the suggestion search sees it.
-struct Candidate {
-    std::uint32_t offset;  ///< of the word in Bytes()
-    std::uint16_t length;  ///< in bytes
-    std::int32_t key;      ///< never 0 except where `inherits_key`
-    bool inherits_key;     ///< three or more fields before any line that sets a key: see CandidateList
-};
-
 /// All candidates of one file in file order, with what the search filters on held in columns of
-/// their own so that most words are passed over without touching their bytes.
+/// their own so that most words are passed over without touching their bytes. A line's first field
+/// is the candidate (none when it is empty, or longer than 65,535 bytes); its key is its own when it
+/// has one field, the second field when it has two, that of the line before when it has more; where
+/// that gives 0, its own again.
 struct CandidateList {
     std::vector<std::uint32_t> offsets;
     std::vector<std::uint16_t> lengths;
     std::vector<std::int32_t> keys;
-    /// Set of byte values of the word folded into 64 bits (see LetterMask).
+    /// LetterMask of each word, or kUnknownLetters when lower-casing in the page would change it.
     std::vector<std::uint64_t> masks;
     /// Candidates [0, leading_inherits) stand before the first line that sets a key; each takes the
     /// key that the search carries over from the dictionary before, or, when that is 0,
@@ -43,6 +38,9 @@ struct CandidateList {
 
 /// One bit per byte value (folded to 64): equal bytes set equal bits.
 std::uint64_t LetterMask(std::string_view bytes);
+
+/// The mask of a candidate that is not wholly in lower case: comparing letters says nothing about it.
+inline constexpr std::uint64_t kUnknownLetters = ~std::uint64_t{0};
 
 /// A dictionary file in memory: its bytes, and an index of its entries built when first asked. Not
 /// safe to share between threads while the index is being built.
@@ -60,8 +58,13 @@ class DictionaryFile {
     /// The same for a word without comma, CR and LF whose HashBytes is already known.
     bool ContainsHashed(std::string_view word, std::uint32_t hash, EntryForms forms) const;
 
-    static std::uint32_t HashBytes(std::string_view word);
-    /// Streaming form: start with kHashSeed, add byte by byte, then FinishHash.
+    /// Hash of a whole word; its streaming form starts with kHashSeed, adds byte by byte and ends
+    /// with FinishHash.
+    static constexpr std::uint32_t HashBytes(std::string_view word) {
+        std::uint32_t hash = kHashSeed;
+        for (const char c : word) hash = AddToHash(hash, static_cast<unsigned char>(c));
+        return FinishHash(hash);
+    }
     static constexpr std::uint32_t kHashSeed = 2166136261u;
     static constexpr std::uint32_t AddToHash(std::uint32_t hash, unsigned char byte) {
         return (hash ^ byte) * 16777619u;
@@ -75,17 +78,24 @@ class DictionaryFile {
     std::size_t CountEntries() const;
 
   private:
+    /// Where an entry stands: 1 + 2 * offset + (1 when it is a bare word); 0 marks a free slot.
     struct Slot {
         std::uint32_t hash;
-        std::uint32_t offset_and_form;  // 0: free; else 1 + offset * 2 + bare
-        std::uint32_t length;
+        std::uint32_t place;
+
+        std::size_t Offset() const { return (place - 1) >> 1; }
+        bool IsBare() const { return ((place - 1) & 1) != 0; }
     };
     void BuildIndex() const;
+    void AddToIndex(Slot slot, std::string_view word) const;
+    bool Holds(const Slot& slot, std::string_view word) const;
 
     std::string bytes_;
     mutable bool indexed_ = false;
+    /// A power of two of slots, at most half of them taken.
     mutable std::vector<Slot> slots_;
-    mutable std::optional<CandidateList> candidates_;
+    mutable const AnsiCodePage* candidates_page_ = nullptr;
+    mutable CandidateList candidates_;
 };
 
 /// "word,key\r\n" in the bytes of the page; `word` is lower-cased first.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/split_rules.h"
+#include "platform/text.h"
 
 #include <string>
 #include <string_view>

@@ -6,7 +6,6 @@
 #include "dict/dictionary_store.h"
 #include "platform/ui_services.h"
 
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,23 +33,25 @@ struct ProgramOptions {
 /// order, and owns them. Everything else is handed references to its members.
 class Program {
   public:
-    Program(const ProgramOptions& options, UiServices& ui);
+    Program(ProgramOptions options, UiServices& services);
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
+    UiServices& ui;
     ProgramState state;
     DelimiterFlagStore flags;
     Settings settings;
     DictionaryStore dictionaries;
-    UiServices& ui;
 
-    /// Reads settings and lists again after a dialog changed them.
+    /// Reads the settings and the custom dictionary list again, after a dialog changed them.
     void ReloadSettings();
-    /// Switches to the language that setting "Language" names now, and its dictionaries.
+    /// Chooses the language that setting "Language" now names, with its dictionaries; returns the
+    /// locale number in force.
     std::wstring ChangeLanguage();
 
   private:
-    void ApplyOverrides();
+    void OverrideLanguage();
+    void InstallDictionaries();
 
     ProgramOptions options_;
 };

@@ -16,28 +16,44 @@ bool IsAddressEnd(wchar_t c);
 /// wherever its characters stand.
 std::wstring RemoveWebAddresses(std::wstring_view text);
 
-/// Blanks Internet addresses in a text that comes in blocks, in one pass, with the result of
-/// removing prefix after prefix from the whole text. It remembers the addresses met so far.
+/// Finds Internet addresses in a text that comes in blocks, in one pass, with the result of
+/// removing prefix after prefix, found address by found address, from the whole text.
+///
+/// One pass is enough because an address begins with its prefix: when the first occurrence of a
+/// prefix is met, nothing before it holds that prefix, so nothing before it can hold the address.
+/// And an address holds no end character, so stretches between end characters are independent but
+/// for the addresses already known.
 class AddressBlanker {
   public:
-    /// Overwrites every address in `block` with spaces, so that offsets stay. A block must not end
-    /// within an address: cut blocks behind a space or a line end.
-    void Blank(std::wstring& block);
+    struct Range {
+        std::size_t offset;
+        std::size_t length;
+    };
 
-    /// Whether the block holds any address prefix; a quick look, so that most blocks need no copy.
+    /// Overwrites every address in `block` with spaces, so that offsets stay, and appends where each
+    /// one stood to `ranges` when given. Cut blocks behind a space or a line end.
+    void Blank(std::wstring& block, std::vector<Range>* ranges = nullptr);
+
+    /// Whether the block holds any address prefix: a quick look, so that most blocks need no copy.
     static bool MayHoldAddress(std::wstring_view block);
 
   private:
-    struct Book;
-    // see web_addresses.cpp
+    /// The addresses met with one prefix, in the order they were met.
     struct Known {
         std::vector<std::wstring> addresses;
-        std::unordered_map<std::uint64_t, std::uint32_t> trie;
+        /// (node, unit) to node; node 0 is the root.
+        std::unordered_map<std::uint64_t, std::uint32_t> steps;
         std::vector<std::int32_t> address_at_node = {-1};
-    };
-    void BlankRun(wchar_t* run, std::size_t length);
 
-    std::vector<Known> known_by_prefix_;
+        void Add(std::wstring_view address);
+        /// Index of the earliest known address that `text` begins with, -1 for none.
+        std::int32_t EarliestAtStartOf(std::wstring_view text) const;
+    };
+
+    void BlankRun(std::wstring& block, std::size_t begin, std::size_t end,
+                  std::vector<Range>* ranges);
+
+    std::vector<Known> known_;
 };
 
 }  // namespace wordhawk

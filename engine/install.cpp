@@ -1,0 +1,57 @@
+#include "engine/install.h"
+
+#include "engine/shipped_dictionaries.h"
+#include "platform/single_writer.h"
+
+#include <algorithm>
+#include <string>
+#include <system_error>
+
+namespace wordhawk {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool HasDictionary(const Path& folder) {
+    std::error_code failed;
+    for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
+        if (at->path().extension() == ".dic") return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+bool InstallShippedDictionaries(const ProgramState& state, const Path& shipped) {
+    // The setting ends in a separator; the copy is made beside the folder itself.
+    const Path target = state.LanguageDictFolder.has_filename() ? state.LanguageDictFolder
+                                                                : state.LanguageDictFolder.parent_path();
+    if (HasDictionary(target)) return true;
+    const int pack = ShippedPackOf(NumberOrZero(state.LanguageId));
+    const Path source = shipped / std::to_string(pack);
+    if (pack == 0 || !HasDictionary(source)) return false;
+
+    const auto only_writer = SingleWriter::Acquire(target.parent_path());
+    if (!only_writer || HasDictionary(target)) return HasDictionary(target);
+    Path copy = target;
+    copy += ".new";
+    std::error_code failed;
+    fs::remove_all(copy, failed);
+    fs::copy(source, copy, failed);
+    if (failed) {
+        fs::remove_all(copy, failed);
+        return false;
+    }
+    // The empty folder gives way to the finished one; other files in it are not ours to remove.
+    fs::remove(target, failed);
+    fs::rename(copy, target, failed);
+    if (failed) {
+        for (fs::directory_iterator at(copy, failed), end; !failed && at != end; at.increment(failed)) {
+            fs::rename(at->path(), target / at->path().filename(), failed);
+        }
+        fs::remove_all(copy, failed);
+    }
+    return HasDictionary(target);
+}
+
+}  // namespace wordhawk

@@ -1,0 +1,67 @@
+#include "engine/program.h"
+
+#include "app/prepare_folders.h"
+#include "engine/install.h"
+#include "lang/modRcLangs.h"
+#include "platform/cIsInIDE.h"
+#include "platform/folders.h"
+#include "platform/locale_ids.h"
+
+#include <algorithm>
+
+namespace wordhawk {
+
+Program::Program(ProgramOptions options, UiServices& services)
+    : ui(services), dictionaries(state, settings), options_(std::move(options)) {
+    state.InIDE = cIsInIDE().IsInIDE();
+    state.DataFolder = options_.data_folder;
+    state.LocaleOverride = options_.locale;
+    const int locale = options_.locale != 0 ? options_.locale : SystemDefaultLocale();
+    // A locale that was asked for brings its own page, so that results do not hang on the machine.
+    state.CodePage = &AnsiCodePage::Get(options_.locale != 0 ? AnsiPageOfLocale(locale) : SystemAnsiPage(locale));
+
+    PrepareFolders(state);
+    modRcLangs::InitLanguage(state, ui);
+    OverrideLanguage();
+    InstallDictionaries();
+
+    flags.Load(state.SettingsFile);
+    for (const auto& [index, value] : options_.flag_overrides) flags.Set(index, value);
+    state.Delimiters = BuildDelimiters(flags, *state.CodePage);
+
+    state.ProgramMode = options_.program_mode;
+    state.WindowMode = options_.program_mode;
+    ReloadSettings();
+}
+
+void Program::ReloadSettings() {
+    settings = modRegs::LoadSettings(state);
+    for (const auto& [key, value] : options_.setting_overrides) {
+        if (const modRegs::SettingRow* row = modRegs::FindRow(key)) row->assign(settings, value);
+    }
+}
+
+std::wstring Program::ChangeLanguage() {
+    std::wstring in_force = modRcLangs::InitLanguage(state, ui);
+    InstallDictionaries();
+    return in_force;
+}
+
+void Program::OverrideLanguage() {
+    for (const auto& [key, value] : options_.setting_overrides) {
+        const int locale = EqualIgnoringCase(key, L"Language") ? NumberOrZero(value) : 0;
+        if (locale <= 0) continue;
+        state.LanguageId = std::to_wstring(locale);
+        modRcLangs::LanguageFileExists(state, state.LanguageId);
+        modRcLangs::SetLanguageFilePath(state);
+        state.LanguageDictFolder = state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId) / "";
+    }
+}
+
+void Program::InstallDictionaries() {
+    if (!options_.install_dictionaries) return;
+    InstallShippedDictionaries(state, options_.shipped_dictionaries.empty() ? ProgramFolder() / "dictionaries"
+                                                                           : options_.shipped_dictionaries);
+}
+
+}  // namespace wordhawk

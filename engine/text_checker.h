@@ -1,0 +1,83 @@
+#pragma once
+
+#include "dict/dictionary_store.h"
+#include "engine/word_scanner.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace wordhawk {
+
+/// One occurrence of a word that no dictionary holds. Views are valid during the callback only.
+struct UnknownWord {
+    /// Index of the word in TextChecker::Words().
+    std::size_t index;
+    /// Lower-cased, as the list shows it.
+    std::wstring_view listed;
+    /// As it stands in the text.
+    std::wstring_view text;
+    /// In UTF-16 units from the start of the first block; as many units long as `text`.
+    std::uint64_t offset;
+};
+
+/// Checks a text that comes in blocks. Memory grows with the number of distinct unknown words only.
+class TextChecker {
+  public:
+    /// The store must outlive the checker; with setting SuggFromMain only main dictionaries count.
+    TextChecker(DictionaryStore& store, const SplitRules& rules);
+
+    /// Calls `sink(const UnknownWord&)` for every occurrence of an unknown word, in text order.
+    /// A block ends behind a space or a line break, or is the last.
+    template <class Sink>
+    void Feed(std::wstring_view block, Sink&& sink) {
+        scanner_.Scan(block, [&](const ScannedWord& word) {
+            if (!word.bytes.empty() && IsInMain(word)) return;
+            const std::int64_t index = IndexOfUnknown(word.text);
+            if (index >= 0) {
+                const auto at = static_cast<std::size_t>(index);
+                sink(UnknownWord{at, words_[at], word.text, word.offset});
+            }
+        });
+    }
+
+    /// Calls `sink(const ScannedWord&, bool known)` for every word.
+    template <class Sink>
+    void FeedAll(std::wstring_view block, Sink&& sink) {
+        scanner_.Scan(block, [&](const ScannedWord& word) {
+            sink(word, (!word.bytes.empty() && IsInMain(word)) || IndexOfUnknown(word.text) < 0);
+        });
+    }
+
+    /// The distinct unknown words so far, in the order in which they were met.
+    const std::vector<std::wstring>& Words() const { return words_; }
+
+  private:
+    bool IsInMain(const ScannedWord& word) {
+        return store_
+            .MainFileOfBytes(static_cast<unsigned char>(word.bytes[0]), static_cast<unsigned char>(word.bytes[1]))
+            .ContainsHashed(word.bytes, word.hash, EntryForms::KeyedOnly);
+    }
+    /// The word's place in the list (added when new), or -1 when a dictionary holds it.
+    std::int64_t IndexOfUnknown(std::wstring_view text);
+
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::wstring_view text) const {
+            return std::hash<std::wstring_view>()(text);
+        }
+    };
+
+    DictionaryStore& store_;
+    Scope scope_;
+    WordScanner scanner_;
+    std::wstring lower_;
+    std::vector<std::wstring> words_;
+    /// Lower-cased words that needed more than the quick look: index in the list, or -1.
+    std::unordered_map<std::wstring, std::int64_t, Hash, std::equal_to<>> verdicts_;
+    std::size_t known_verdicts_ = 0;
+};
+
+}  // namespace wordhawk
