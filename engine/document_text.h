@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/text.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,8 +20,18 @@ struct DocumentText {
     LineEnds line_ends = LineEnds::CrLf;
 };
 
+/// The bytes that mark a document in `encoding`; empty for those without.
+std::string_view EncodingMark(TextEncoding encoding);
+
+/// The encoding that the first bytes of a document are the mark of, if they are one.
+std::optional<TextEncoding> MarkedEncoding(std::string_view bytes);
+
 /// Encoding of a document: by its mark, else UTF-8 when well-formed, else ANSI.
 TextEncoding DetectEncoding(std::string_view bytes);
+
+/// Appends the text of `bytes`, which hold no mark and end between two characters.
+void AppendDecoded(std::string_view bytes, TextEncoding encoding, const AnsiCodePage& page,
+                   std::wstring& out);
 
 DocumentText DecodeDocument(std::string_view bytes, const AnsiCodePage& page);
 
