@@ -29,7 +29,8 @@ std::wstring Diversity(int value);
 /// Entry of the score list: "85%".
 std::wstring ScoreText(std::int32_t percent);
 /// `text` with blanks before it until it is as wide as "100%" under `width`.
-std::wstring PadScoreText(std::wstring_view text, const std::function<int(std::wstring_view)>& width);
+std::wstring PadScoreText(std::wstring_view text,
+                          const std::function<int(std::wstring_view)>& width);
 
 /// Question before a word goes into the main dictionary, and its title.
 std::wstring MainAddQuestion(const ProgramState& state);

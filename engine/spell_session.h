@@ -27,6 +27,8 @@ struct AddedWord {
     std::wstring word;
     AddIndex index = AddIndex::Main;
     Path file;
+    /// The file had the word before, so nothing was added and there is nothing to undo.
+    bool already_there = false;
 };
 
 /// What a command did and what the window is to show now. The document is changed and its selection
@@ -34,9 +36,11 @@ struct AddedWord {
 struct SessionStep {
     enum class Kind {
         Nothing,         ///< refused or declined; everything is as it was
-        NextOccurrence,  ///< another occurrence of the same word is selected: match the suggestion anew
-        NewWord,         ///< CurrentIndex() and CurrentWord() changed: show it and search suggestions
-        Finished,        ///< clear lstSco, lstSug, lstNID, txtChgTo and lblNID, then `notice`, then `close`
+        NextOccurrence,  ///< another occurrence of the same word is selected: match the suggestion
+                         ///< anew
+        NewWord,   ///< CurrentIndex() and CurrentWord() changed: show it and search suggestions
+        Finished,  ///< clear lstSco, lstSug, lstNID, txtChgTo and lblNID, then `notice`, then
+                   ///< `close`
     };
     Kind kind = Kind::Nothing;
     /// Entry of lstNID that left the list (index before it left).
@@ -98,8 +102,9 @@ class SpellSession {
     TextOffset OccurrenceStart() const { return occurrence_start_; }
     /// Where the next occurrence is searched; kNotFound when no further one is to be searched.
     TextOffset SearchPosition() const { return search_position_; }
-    /// How often an entry of the list occurs in the document as it is now.
-    std::size_t OccurrencesOf(std::size_t index);
+    /// How often an entry of the list occurs in the document, as of the last command (so drawing
+    /// the list never searches the text).
+    std::size_t OccurrencesOf(std::size_t index) const;
     /// Caption of lblNIL.
     std::wstring NotFoundCaption() const;
     /// `change_to` is the text of txtChgTo. Ask again whenever that or the word changes.
@@ -120,8 +125,8 @@ class SpellSession {
 
     /// The word that UndoLastAdd would take out again.
     const std::optional<AddedWord>& LastAdded() const { return last_added_; }
-    /// Takes the word that was added last out of its dictionary, back into the list at its place, and
-    /// under correction again.
+    /// Takes the word that was added last out of its dictionary, back into the list at its place,
+    /// and under correction again.
     SessionStep UndoLastAdd();
 
     /// Whether the end of the check is announced (the check pass sets this from its argument).
@@ -130,20 +135,18 @@ class SpellSession {
     CompletionNotice Notice() const;
 
   private:
+    void FillList(std::vector<std::wstring> words);
     void Sync();
-    void ForgetWords();
-    void RemoveEntry(std::size_t index);
-    std::optional<std::size_t> EntryOf(std::wstring_view word) const;
-    std::optional<std::size_t> RemoveCurrentEntry();
-    TextOffset NextOccurrence();
     void ReplaceSelected(std::wstring_view replacement);
     void SelectOccurrence(TextOffset start);
+    std::optional<std::size_t> RemoveCurrentEntry();
     SessionStep ContinueOrIgnoreAll();
     SessionStep SelectNextWord();
     SessionStep Show(std::size_t index);
     SessionStep ResetFinished();
     bool Confirmed(AddIndex index) const;
     SessionStep AddCurrent(AddIndex index, AddTarget target, Path path);
+    void KeepUnknownWords(AddIndex index);
 
     Parts parts_;
     std::vector<std::wstring> words_;

@@ -16,6 +16,7 @@ inline constexpr std::wstring_view kNoScore = L" ";
 std::wstring MatchCase(std::wstring_view suggestion, std::wstring_view document_word);
 
 /// The text that a suggestion list entry gives the change-to box; none for kNoSuggestions.
-std::optional<std::wstring> TakeSuggestion(std::wstring_view entry, std::wstring_view document_word);
+std::optional<std::wstring> TakeSuggestion(std::wstring_view entry,
+                                           std::wstring_view document_word);
 
 }  // namespace wordhawk

@@ -23,8 +23,9 @@ TextOffset FindWordFrom(std::wstring_view text, std::wstring_view word, std::siz
 std::vector<std::size_t> ReplacementStarts(std::wstring_view text, std::wstring_view word,
                                            std::wstring_view replacement);
 
-/// All places of many words in one text, found in one scan and kept up to date edit by edit, so that
-/// a command need not search a large text once per word. Every answer equals that of FindWordFrom.
+/// All places of many words in one text, found in one scan and kept up to date edit by edit, so
+/// that a command need not search a large text once per word. Every answer equals that of
+/// FindWordFrom.
 class WordPositions {
   public:
     /// Names a word; stays the same until the word is removed.
@@ -42,7 +43,8 @@ class WordPositions {
     void Scan(std::wstring_view text);
     /// Follows one edit: `removed` units at `start` gave way to `inserted` ones; `text` is the text
     /// afterwards.
-    void Replaced(std::wstring_view text, std::size_t start, std::size_t removed, std::size_t inserted);
+    void Replaced(std::wstring_view text, std::size_t start, std::size_t removed,
+                  std::size_t inserted);
 
     TextOffset First(Id id) const { return Next(id, 0); }
     /// FindWordFrom for a word of the index; a negative `from` finds nothing.
@@ -51,19 +53,21 @@ class WordPositions {
     std::size_t Count(Id id) const;
 
   private:
+    /// A word is found by its longest run of word characters (its anchor): such a run can match
+    /// only where a run of the text begins and ends. A word without any is found by its first unit.
     struct Word {
         std::wstring lower;
-        std::uint32_t anchor = 0;  ///< offset of the run of word characters that it is found by
-        std::uint32_t anchor_length = 0;
-        std::uint32_t hash = 0;
-        bool alive = false;
-        Id next = 0;  ///< next word with the same anchor slot, plus one
-        std::vector<std::uint32_t> places;
+        std::uint32_t anchor = 0;  ///< offset of the anchor in the word
+        std::uint32_t hash = 0;    ///< of the anchor
+        Id next = 0;               ///< next word of the chain, plus one
+        bool has_anchor = false;
+        bool alive = true;
+        std::vector<std::uint32_t> places;  ///< ascending
     };
 
     Id Append(std::wstring_view word);
     void Link(Id id);
-    void GrowTable();
+    std::size_t Slot(std::uint32_t hash) const;
     /// Calls `found(id, place)` for every match whose anchor starts in [from, to), in text order.
     template <class Found>
     void ScanRange(std::wstring_view text, std::size_t from, std::size_t to, Found found) const;

@@ -1,0 +1,69 @@
+#include "engine/captions.h"
+
+#include "lang/modLoadRes.h"
+
+namespace wordhawk::captions {
+namespace {
+
+using modLoadRes::LoadResText;
+
+constexpr std::wstring_view kParagraph = L"\r\n\r\n";
+
+}  // namespace
+
+std::wstring NotFound(std::size_t count) {
+    return std::to_wstring(count) + L" - Not Found";
+}
+
+std::wstring NothingFoundYet(const ProgramState& state) {
+    return LoadResText(state, 175, L"0 - ");
+}
+
+std::wstring SuggestionCount(const ProgramState& state, std::size_t count) {
+    return LoadResText(state, count == 1 ? 212 : 213, std::to_wstring(count) + L" - ", L":");
+}
+
+std::wstring NoSuggestionsYet(const ProgramState& state) {
+    return LoadResText(state, 213, L"0 - ");
+}
+
+std::wstring ScoreRange(const ProgramState& state, int value) {
+    if (value == 100) return LoadResText(state, 167, L"100% ");
+    return LoadResText(state, 167, ScoreText(value) + L" - 100% ");
+}
+
+std::wstring Diversity(int value) {
+    return L"Less- diversity(" + std::to_wstring(value) + L") -More";
+}
+
+std::wstring ScoreText(std::int32_t percent) {
+    return std::to_wstring(percent) + L"%";
+}
+
+std::wstring PadScoreText(std::wstring_view text,
+                          const std::function<int(std::wstring_view)>& width) {
+    // A font in which blanks have no width must not keep us here for ever.
+    constexpr std::size_t kMostBlanks = 64;
+    const int wanted = width(L"100%");
+    std::wstring padded(text);
+    for (std::size_t blanks = 1; width(padded) < wanted && blanks <= kMostBlanks; ++blanks) {
+        padded = std::wstring(blanks, L' ').append(text);
+    }
+    return padded;
+}
+
+std::wstring MainAddQuestion(const ProgramState& state) {
+    std::wstring question = LoadResText(state, 185);
+    question += LoadResText(state, 196, kParagraph, L":");
+    question += LoadResText(state, 103, std::wstring(kParagraph) + L"  ");
+    question += LoadResText(state, 110, kParagraph, L":");
+    question += LoadResText(state, 102, kParagraph);
+    question += LoadResText(state, 150, kParagraph);
+    return question;
+}
+
+std::wstring MainAddTitle(const ProgramState& state) {
+    return LoadResText(state, 107);
+}
+
+}  // namespace wordhawk::captions
