@@ -109,14 +109,22 @@ int SortLines(std::vector<std::wstring>& lines, std::ptrdiff_t first, std::ptrdi
 /// CR LF and hold no empty line.
 namespace dictionary_edit {
 
-/// Whether "\n" + entry line stands in the file: an entry on the first line is not seen.
+/// Whether a line below the first is `entry_line` (which ends in CR LF): an entry on the first line
+/// is not seen.
 bool HasEntryBelowFirstLine(std::string_view bytes, std::string_view entry_line);
 
-/// Adds entry lines (each ending in CR LF) in order, each unless it is already there, then sorts.
+/// When lines are sorted while entries are added: the first line, which hides its entry, depends on it.
+enum class SortMoment { AfterLastEntry, AfterEachEntry };
+
+/// Adds entry lines (each ending in CR LF) in order, each unless it is already there, and sorts.
 /// None when nothing was added: the file is then to be left untouched.
 std::optional<std::string> WithEntries(std::string_view bytes,
                                        const std::vector<std::string>& entry_lines,
-                                       const AnsiCodePage& page);
+                                       const AnsiCodePage& page,
+                                       SortMoment moment = SortMoment::AfterLastEntry);
+
+/// All lines of `bytes` that are not empty, sorted.
+std::string Sorted(std::string_view bytes, const AnsiCodePage& page);
 
 /// Removes the first line equal to `entry` (no line end). None when there is no such line.
 std::optional<std::string> WithoutEntry(std::string_view bytes, std::string_view entry);

@@ -12,4 +12,7 @@ namespace wordhawk {
 /// most 255 units. Returns the name with ".DIC" added when it has no such extension.
 Result<std::wstring> CustomDictionaryName(std::wstring_view name);
 
+/// The same check, extension aside: whether a name from the settings may be joined to a folder.
+bool IsPlainFileName(std::wstring_view name);
+
 }  // namespace wordhawk

@@ -18,33 +18,44 @@ enum class Scope { MainOnly, MainAndCustom };
 
 /// The dictionaries in memory: main files cached for the life of the process as they are first
 /// needed, custom files in the order of the list. Words are looked up lower-cased; the code page is
-/// `state.CodePage`. One thread.
+/// `state.CodePage`. A missing file is cached too, as an empty one. One thread.
 class DictionaryStore {
   public:
     /// Both objects must outlive the store; their folders, names and page may change in between.
     DictionaryStore(ProgramState& state, Settings& settings);
+    DictionaryStore(const DictionaryStore&) = delete;
+    DictionaryStore& operator=(const DictionaryStore&) = delete;
 
     /// Whether the word is in the main dictionary or, unless MainOnly, in a custom one.
     bool IsWordInDictionaries(std::wstring_view word, Scope scope);
     bool IsWordInCustomDictionaries(std::wstring_view word);
 
+    /// Notices that the language folder or the page changed. Every other call does so by itself;
+    /// callers of MainFileOfBytes do it once before a pass.
+    void SyncWithState();
+
     /// The main file for lower-cased words that begin with these two ANSI bytes (equal bytes for a
-    /// one-letter word), opened when first asked for. Only for first characters within the page.
+    /// one-letter word), opened when first asked for. Only for first characters within the page. The
+    /// file stays where it is for the life of the store; ReloadFile changes what it holds.
     const DictionaryFile& MainFileOfBytes(unsigned char first, unsigned char second) {
-        const DictionaryFile* file = by_first_bytes_[first] ? (*by_first_bytes_[first])[second] : nullptr;
-        return file != nullptr && folder_in_table_ == state_.LanguageDictFolder
-                   ? *file
-                   : OpenMainFileOfBytes(first, second);
+        const Row* const row = by_first_bytes_[first].get();
+        const DictionaryFile* const file = row != nullptr ? (*row)[second] : nullptr;
+        return file != nullptr ? *file : OpenMainFileOfBytes(first, second);
     }
 
     /// The main file that may hold `lower_word`; null when it does not exist on disk.
     const DictionaryFile* MainFileFor(std::wstring_view lower_word);
     Path MainPathFor(std::wstring_view lower_word) const;
 
-    std::size_t CustomCount() const;
-    /// The i-th active custom dictionary; null when its file does not exist.
+    std::size_t CustomCount();
+    /// The i-th active custom dictionary; null when its file does not exist. Valid until the list
+    /// changes.
     const DictionaryFile* CustomFile(std::size_t i);
+    /// The path of a custom dictionary: always within the custom folder. A name that is none (see
+    /// CustomDictionaryName) gives the folder itself, which no file can be read from or written to.
     Path CustomPath(std::wstring_view name) const;
+    /// The i-th name of the list.
+    const std::wstring& CustomName(std::size_t i);
     /// The dictionary that Add writes to; an empty setting becomes CUSTOM.DIC first.
     Path ActiveCustomPath();
 
@@ -61,24 +72,34 @@ class DictionaryStore {
     struct Loaded {
         DictionaryFile file;
         bool exists = false;
+        Path path;
+    };
+    struct Custom {
+        std::wstring name;
+        bool is_loaded = false;
+        Loaded content;
     };
     using Row = std::array<const DictionaryFile*, 256>;
 
     const DictionaryFile& OpenMainFileOfBytes(unsigned char first, unsigned char second);
+    static Loaded Read(Path path);
     Loaded& LoadMain(const Path& path);
     void SyncCustomSet();
+    Loaded& LoadCustom(Custom& custom);
+    bool IsInCustomFiles(std::string_view lower_bytes);
 
     ProgramState& state_;
     Settings& settings_;
-    std::unordered_map<std::wstring, std::unique_ptr<Loaded>> main_;
+    std::unordered_map<Path::string_type, std::unique_ptr<Loaded>> main_;
+    /// Short cuts into main_, for the folder and page below.
     std::array<std::unique_ptr<Row>, 256> by_first_bytes_;
-    Path folder_in_table_;
-    struct Custom {
-        std::wstring name;
-        bool loaded = false;
-        Loaded content;
-    };
+    Path::string_type table_folder_;
+    const AnsiCodePage* table_page_ = nullptr;
+    /// In the order of the list, for the folder below.
     std::vector<Custom> custom_;
+    Path::string_type custom_data_folder_;
+    /// The word being looked up, kept for its memory.
+    std::string lower_bytes_;
 };
 
 }  // namespace wordhawk

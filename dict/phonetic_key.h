@@ -19,6 +19,10 @@ std::int32_t GetPhoneticKeyOfBytes(std::string_view word, const AnsiCodePage& pa
 /// caller has lower-cased: two letters and "_.dic", "_noncase_.dic" or "_dbcs_.dic".
 std::wstring GetDictionaryFileName(std::wstring_view word, const AnsiCodePage& page);
 
+/// Whether `c` has no single-byte code at all: above 255 and not in the page. Words that begin with
+/// such a character are kept apart.
+bool IsOutsideSingleBytes(wchar_t c, const AnsiCodePage& page);
+
 /// Whether a single-byte code counts as a letter in dictionary file names.
 bool IsFileNameLetter(unsigned code);
 

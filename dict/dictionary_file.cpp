@@ -1,0 +1,111 @@
+#include "dict/dictionary_file.h"
+
+#include "dict/lines.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstring>
+#include <limits>
+
+namespace wordhawk {
+namespace {
+
+constexpr std::array<bool, 256> MakeEntryStops() {
+    std::array<bool, 256> stops{};
+    stops[','] = stops['\r'] = stops['\n'] = true;
+    return stops;
+}
+
+constexpr std::array<bool, 256> kStopsEntry = MakeEntryStops();
+
+// An offset and one more bit must fit 32 bits, with 0 left to mark a free slot.
+constexpr std::size_t kMostIndexedBytes = std::numeric_limits<std::uint32_t>::max() / 2 - 1;
+
+/// The lookup by its definition, for the words and files that the index does not cover.
+bool FoundInBytes(std::string_view bytes, std::string_view word, EntryForms forms) {
+    std::string pattern;
+    pattern.reserve(word.size() + 2);
+    pattern.append("\n").append(word).append(",");
+    if (bytes.find(pattern) != std::string_view::npos) return true;
+    if (bytes.substr(0, word.size() + 1) == std::string_view(pattern).substr(1)) return true;
+    if (forms == EntryForms::KeyedOnly) return false;
+    pattern.back() = '\r';
+    return bytes.find(pattern) != std::string_view::npos;
+}
+
+}  // namespace
+
+bool DictionaryFile::Contains(std::string_view word, EntryForms forms) const {
+    const bool is_plain = std::none_of(word.begin(), word.end(), [](char c) {
+        return kStopsEntry[static_cast<unsigned char>(c)];
+    });
+    if (!is_plain) return FoundInBytes(bytes_, word, forms);
+    return ContainsHashed(word, HashBytes(word), forms);
+}
+
+bool DictionaryFile::ContainsHashed(std::string_view word, std::uint32_t hash,
+                                    EntryForms forms) const {
+    if (!indexed_) BuildIndex();
+    if (slots_.empty()) return !bytes_.empty() && FoundInBytes(bytes_, word, forms);
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t i = hash & mask; slots_[i].place != 0; i = (i + 1) & mask) {
+        if (slots_[i].hash != hash || !Holds(slots_[i], word)) continue;
+        return forms == EntryForms::KeyedAndBare || !slots_[i].IsBare();
+    }
+    return false;
+}
+
+bool DictionaryFile::Holds(const Slot& slot, std::string_view word) const {
+    const std::size_t offset = slot.Offset();
+    // Neither text holds a comma or CR, so equal beginnings and the stop make them the same entry.
+    return word.size() < bytes_.size() - offset &&
+           bytes_[offset + word.size()] == (slot.IsBare() ? '\r' : ',') &&
+           std::memcmp(bytes_.data() + offset, word.data(), word.size()) == 0;
+}
+
+void DictionaryFile::BuildIndex() const {
+    indexed_ = true;
+    if (bytes_.empty() || bytes_.size() > kMostIndexedBytes) return;
+    const auto lines = static_cast<std::size_t>(std::count(bytes_.begin(), bytes_.end(), '\n')) + 1;
+    slots_.assign(std::bit_ceil(2 * lines), Slot{});
+
+    const char* const begin = bytes_.data();
+    const char* const end = begin + bytes_.size();
+    for (const char* start = begin; start != end;) {
+        const char* at = start;
+        std::uint32_t hash = kHashSeed;
+        while (at != end && !kStopsEntry[static_cast<unsigned char>(*at)]) {
+            hash = AddToHash(hash, static_cast<unsigned char>(*at++));
+        }
+        if (at == end) break;
+        if (*at == ',' || (*at == '\r' && start != begin)) {
+            const bool bare = *at == '\r';
+            AddToIndex({FinishHash(hash), static_cast<std::uint32_t>(1 + 2 * (start - begin) + bare)},
+                       std::string_view(start, static_cast<std::size_t>(at - start)));
+        }
+        const auto* feed = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)));
+        if (feed == nullptr) break;
+        start = feed + 1;
+    }
+}
+
+void DictionaryFile::AddToIndex(Slot slot, std::string_view word) const {
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t i = slot.hash & mask;
+    for (; slots_[i].place != 0; i = (i + 1) & mask) {
+        if (slots_[i].hash != slot.hash || !Holds(slots_[i], word)) continue;
+        // One slot a word; the keyed form answers for both kinds of lookup.
+        if (slots_[i].IsBare()) slots_[i] = slot;
+        return;
+    }
+    slots_[i] = slot;
+}
+
+std::size_t DictionaryFile::CountEntries() const {
+    std::size_t entries = 0;
+    ForEachLine(bytes_, [&](std::string_view line) { entries += !line.empty(); });
+    return entries;
+}
+
+}  // namespace wordhawk
