@@ -1,6 +1,5 @@
 #include "dict/dictionary_file.h"
 #include "dict/lines.h"
-#include "dict/phonetic_key.h"
 
 #include <algorithm>
 #include <cassert>
@@ -138,11 +137,6 @@ class Addition {
 };
 
 }  // namespace
-
-std::string EntryLine(std::wstring_view word, const AnsiCodePage& page) {
-    const std::wstring lower = Lower(word);
-    return page.Encode(lower) + "," + std::to_string(GetPhoneticKey(lower, page)) + std::string(kLineEnd);
-}
 
 int SortLines(std::vector<std::wstring>& lines, std::ptrdiff_t first, std::ptrdiff_t last) {
     const auto size = static_cast<std::ptrdiff_t>(lines.size());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dict/entry_line.h"
 #include "platform/text.h"
 
 #include <cstdint>
@@ -97,9 +98,6 @@ class DictionaryFile {
     mutable const AnsiCodePage* candidates_page_ = nullptr;
     mutable CandidateList candidates_;
 };
-
-/// "word,key\r\n" in the bytes of the page; `word` is lower-cased first.
-std::string EntryLine(std::wstring_view word, const AnsiCodePage& page);
 
 /// Sorts decoded lines ascending by their UTF-16 codes. Returns 1 when the range is not within the
 /// lines (the caller then gives up without writing), else 0.

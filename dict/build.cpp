@@ -1,0 +1,111 @@
+#include "dict/build.h"
+
+#include "dict/dictionary_file.h"
+#include "dict/lines.h"
+#include "dict/phonetic_key.h"
+#include "platform/replace_file.h"
+
+#include <map>
+#include <unordered_set>
+
+namespace wordhawk {
+namespace {
+
+constexpr std::size_t kShortestPiece = 2;
+constexpr wchar_t kByteOrderMark = 0xFEFF;
+
+/// Calls `use(word)` for every line of a list, trimmed and lower-cased, unless it is empty.
+template <class Use>
+Result<void> ForEachWordOf(const Path& list, const AnsiCodePage& page, Use&& use) {
+    const Result<std::string> bytes = ReadWholeFile(list);
+    if (!bytes) return tl::unexpected(bytes.error());
+    const bool is_utf8 = IsUtf8(*bytes);
+    bool at_start = true;
+    ForEachLine(*bytes, [&](std::string_view line) {
+        std::wstring text = is_utf8 ? FromUtf8(line) : page.Decode(line);
+        if (std::exchange(at_start, false) && is_utf8 && text.starts_with(kByteOrderMark)) text.erase(0, 1);
+        const std::wstring word = Lower(Trim(text));
+        if (!word.empty()) use(word);
+    });
+    return {};
+}
+
+template <class Use>
+void ForEachPiece(std::wstring_view word, std::wstring_view delimiters, Use&& use) {
+    for (std::size_t start = 0; start < word.size();) {
+        const std::size_t stop = std::min(word.find_first_of(delimiters, start), word.size());
+        if (stop - start >= kShortestPiece) use(word.substr(start, stop - start));
+        start = stop + 1;
+    }
+}
+
+/// The distinct entry lines of all lists.
+class WordCollection {
+  public:
+    explicit WordCollection(const BuildOptions& options) : options_(options) {}
+
+    void Add(const std::wstring& word) {
+        AddOne(word);
+        if (word.find_first_of(options_.piece_delimiters) == std::wstring::npos) return;
+        ForEachPiece(word, options_.piece_delimiters, [this](std::wstring_view piece) { AddOne(piece); });
+    }
+    void Remove(const std::wstring& word) { lines_.erase(EntryLine(word, *options_.page)); }
+
+    std::size_t size() const { return lines_.size(); }
+    std::size_t Skipped() const { return skipped_; }
+
+    /// File name -> its lines, not yet in order.
+    std::map<std::wstring, std::string> ByFile() const {
+        const AnsiCodePage& page = *options_.page;
+        std::map<std::wstring, std::string> files;
+        for (const std::string& line : lines_) {
+            const std::string_view word = std::string_view(line).substr(0, line.find(','));
+            files[GetDictionaryFileName(page.Decode(word.substr(0, 2)), page)] += line;
+        }
+        return files;
+    }
+
+  private:
+    void AddOne(std::wstring_view word) {
+        Result<std::string> line = CheckedEntryLine(word, *options_.page);
+        if (line) {
+            lines_.insert(std::move(*line));
+        } else {
+            ++skipped_;
+        }
+    }
+
+    const BuildOptions& options_;
+    std::unordered_set<std::string> lines_;
+    std::size_t skipped_ = 0;
+};
+
+}  // namespace
+
+Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path& output,
+                                    const BuildOptions& options) {
+    WordCollection words(options);
+    for (const Path& list : word_lists) {
+        const Result<void> read =
+            ForEachWordOf(list, *options.page, [&](const std::wstring& word) { words.Add(word); });
+        if (!read) return tl::unexpected(read.error());
+    }
+    for (const Path& list : options.excluded_lists) {
+        const Result<void> read = ForEachWordOf(list, *options.page, [&](const std::wstring& word) {
+            if (PageHolds(word, *options.page)) words.Remove(word);
+        });
+        if (!read) return tl::unexpected(read.error());
+    }
+
+    if (!MakeFolder(output)) return tl::unexpected(Error{L"The output folder cannot be made", output});
+    BuildReport report{words.size(), 0, words.Skipped()};
+    for (const auto& [name, bytes] : words.ByFile()) {
+        const std::string sorted = dictionary_edit::Sorted(bytes, *options.page);
+        const Result<void> written = ReplaceFileContents(output / PathFromText(name), sorted);
+        if (!written) return tl::unexpected(written.error());
+        ++report.files;
+    }
+    return report;
+}
+
+}  // namespace wordhawk
