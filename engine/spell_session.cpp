@@ -137,21 +137,35 @@ void SpellSession::ReplaceSelected(std::wstring_view replacement) {
     const TextRange selection = document.Selection();
     const std::size_t size_before = document.Text().size();
     document.ReplaceSelection(replacement);
-    const std::wstring& text = document.Text();
-    // A control may take the replacement in another form; the next Sync then scans everything.
-    if (text.size() + selection.length != size_before + replacement.size()) return;
-    if (text.compare(selection.start, replacement.size(), replacement) != 0) return;
-    positions_.Replaced(text, selection.start, selection.length, replacement.size());
-    scanned_revision_ = document.Revision();
+    FollowReplacement({&selection.start, 1}, selection.length, replacement, size_before);
 }
 
 SessionStep SpellSession::ChangeAll(std::wstring_view replacement) {
     if (!Buttons(replacement).cmdChangeAll) return {};
+    SpellDocument& document = parts_.document;
+    Sync();
+    const std::size_t size_before = document.Text().size();
     const std::vector<std::size_t> starts =
-        ReplacementStarts(parts_.document.Text(), current_, replacement);
-    if (!starts.empty()) parts_.document.ReplaceAll(starts, current_.size(), replacement);
+        positions_.ReplacementStarts(ids_[*current_index_], document.Text(), replacement);
+    if (!starts.empty()) {
+        document.ReplaceAll(starts, current_.size(), replacement);
+        FollowReplacement(starts, current_.size(), replacement, size_before);
+    }
     search_position_ = kNotFound;
     return IgnoreAll();
+}
+
+void SpellSession::FollowReplacement(std::span<const std::size_t> starts, std::size_t removed,
+                                     std::wstring_view replacement, std::size_t size_before) {
+    const std::wstring& text = parts_.document.Text();
+    const std::size_t shift = replacement.size() - removed;
+    // A control may take a replacement in another form; the next Sync then scans everything.
+    if (text.size() != size_before + starts.size() * shift) return;
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        if (text.compare(starts[i] + i * shift, replacement.size(), replacement) != 0) return;
+    }
+    positions_.Replaced(text, starts, removed, replacement.size());
+    scanned_revision_ = parts_.document.Revision();
 }
 
 SessionStep SpellSession::ResetFinished() {

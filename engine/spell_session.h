@@ -138,6 +138,8 @@ class SpellSession {
     void FillList(std::vector<std::wstring> words);
     void Sync();
     void ReplaceSelected(std::wstring_view replacement);
+    void FollowReplacement(std::span<const std::size_t> starts, std::size_t removed,
+                           std::wstring_view replacement, std::size_t size_before);
     void SelectOccurrence(TextOffset start);
     std::optional<std::size_t> RemoveCurrentEntry();
     SessionStep ContinueOrIgnoreAll();

@@ -194,29 +194,39 @@ void WordPositions::Scan(std::wstring_view text) {
     });
 }
 
-void WordPositions::Replaced(std::wstring_view text, std::size_t start, std::size_t removed,
-                             std::size_t inserted) {
+void WordPositions::Replaced(std::wstring_view text, std::span<const std::size_t> starts,
+                             std::size_t removed, std::size_t inserted) {
+    if (starts.empty()) return;
+    if (starts.size() > 1 && starts.size() * longest_ > text.size()) return Scan(text);
     // A match is in question when it, or the unit before or after it, lies in what was removed or
-    // is now inserted. All others stay, those behind the edit at a new offset.
-    const auto shift = static_cast<std::uint32_t>(inserted - removed);
+    // is now inserted. All others stay, those behind an edit at a new offset.
+    const std::size_t shift = inserted - removed;  // modulo 2^n, as are the sums with it
     for (Word& word : words_) {
-        auto& places = word.places;
         const std::size_t length = word.lower.size();
-        if (places.empty() || places.back() + length < start) continue;
-        const std::size_t first_in_question = start > length ? start - length : 0;
-        const auto first = std::lower_bound(places.begin(), places.end(), first_in_question);
-        const auto last = std::upper_bound(first, places.end(), start + removed);
-        for (auto place = last; place != places.end(); ++place) *place += shift;
-        places.erase(first, last);
+        if (word.places.empty() || word.places.back() + length < starts.front()) continue;
+        auto kept = word.places.begin();
+        for (const std::size_t place : word.places) {
+            const auto edit = std::lower_bound(
+                starts.begin(), starts.end(), place,
+                [removed](std::size_t start, std::size_t at) { return start + removed < at; });
+            if (edit != starts.end() && place + length >= *edit) continue;
+            const auto edits_before = static_cast<std::size_t>(edit - starts.begin());
+            *kept++ = static_cast<std::uint32_t>(place + edits_before * shift);
+        }
+        word.places.erase(kept, word.places.end());
     }
-    const std::size_t from = start > longest_ ? start - longest_ : 0;
-    const std::size_t to = std::min(text.size(), start + inserted + longest_ + 1);
-    ScanRange(text, from, to, [&](Id id, std::size_t place) {
-        Word& word = words_[id];
-        if (place + word.lower.size() < start || place > start + inserted) return;
-        word.places.insert(std::lower_bound(word.places.begin(), word.places.end(), place),
-                           static_cast<std::uint32_t>(place));
-    });
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        const std::size_t start = starts[i] + i * shift;
+        const std::size_t from = start > longest_ ? start - longest_ : 0;
+        const std::size_t to = std::min(text.size(), start + inserted + longest_ + 1);
+        ScanRange(text, from, to, [&](Id id, std::size_t place) {
+            Word& word = words_[id];
+            if (place + word.lower.size() < start || place > start + inserted) return;
+            const auto at = std::lower_bound(word.places.begin(), word.places.end(), place);
+            if (at != word.places.end() && *at == place) return;  // found beside the edit before
+            word.places.insert(at, static_cast<std::uint32_t>(place));
+        });
+    }
 }
 
 TextOffset WordPositions::Next(Id id, TextOffset from) const {
@@ -228,14 +238,25 @@ TextOffset WordPositions::Next(Id id, TextOffset from) const {
 }
 
 std::size_t WordPositions::Count(Id id) const {
-    std::size_t count = 0;
-    std::size_t free_from = 0;
-    for (const std::uint32_t place : words_[id].places) {
-        if (place < free_from) continue;
-        ++count;
-        free_from = place + words_[id].lower.size();
+    return ApartFromEachOther(words_[id]).size();
+}
+
+std::vector<std::size_t> WordPositions::ReplacementStarts(Id id, std::wstring_view text,
+                                                          std::wstring_view replacement) const {
+    const Word& word = words_[id];
+    // Only what begins with punctuation can follow a match directly and so gain or lose its left
+    // boundary by the replacement.
+    if (!word.lower.empty() && IsWordCharacter(word.lower.front())) return ApartFromEachOther(word);
+    return wordhawk::ReplacementStarts(text, word.lower, replacement);
+}
+
+std::vector<std::size_t> WordPositions::ApartFromEachOther(const Word& word) {
+    std::vector<std::size_t> starts;
+    starts.reserve(word.places.size());
+    for (const std::uint32_t place : word.places) {
+        if (starts.empty() || place >= starts.back() + word.lower.size()) starts.push_back(place);
     }
-    return count;
+    return starts;
 }
 
 }  // namespace wordhawk

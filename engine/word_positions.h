@@ -41,9 +41,9 @@ class WordPositions {
 
     /// Finds all words anew.
     void Scan(std::wstring_view text);
-    /// Follows one edit: `removed` units at `start` gave way to `inserted` ones; `text` is the text
-    /// afterwards.
-    void Replaced(std::wstring_view text, std::size_t start, std::size_t removed,
+    /// Follows a replacement: `removed` units at each of `starts` (ascending, in the text before)
+    /// gave way to `inserted` ones; `text` is the text afterwards.
+    void Replaced(std::wstring_view text, std::span<const std::size_t> starts, std::size_t removed,
                   std::size_t inserted);
 
     TextOffset First(Id id) const { return Next(id, 0); }
@@ -51,6 +51,9 @@ class WordPositions {
     TextOffset Next(Id id, TextOffset from) const;
     /// How often the word occurs (occurrences that overlap an earlier one not counted).
     std::size_t Count(Id id) const;
+    /// The free function of that name for a word of the index.
+    std::vector<std::size_t> ReplacementStarts(Id id, std::wstring_view text,
+                                               std::wstring_view replacement) const;
 
   private:
     /// A word is found by its longest run of word characters (its anchor): such a run can match
@@ -68,6 +71,8 @@ class WordPositions {
     Id Append(std::wstring_view word);
     void Link(Id id);
     std::size_t Slot(std::uint32_t hash) const;
+    /// The places without those that overlap an earlier one.
+    static std::vector<std::size_t> ApartFromEachOther(const Word& word);
     /// Calls `found(id, place)` for every match whose anchor starts in [from, to), in text order.
     template <class Found>
     void ScanRange(std::wstring_view text, std::size_t from, std::size_t to, Found found) const;
