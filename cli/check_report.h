@@ -1,0 +1,47 @@
+#pragma once
+
+#include "cli/options.h"
+#include "cli/output.h"
+#include "dict/dictionary_store.h"
+#include "engine/suggestions.h"
+#include "engine/text_checker.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace wordhawk {
+
+enum class Colour { Off, On };
+
+/// Prints occurrences of unknown words in the chosen format. Suggestions are found once for each
+/// distinct word, whatever the number of files.
+class CheckReport {
+  public:
+    CheckReport(DictionaryStore& store, const SuggestionRules& rules, const CheckOptions& options, Colour colour)
+        : store_(store), rules_(rules), options_(options), colour_(colour) {}
+
+    /// What follows is about this file, named as the user named it (UTF-8).
+    void BeginFile(std::string_view name);
+
+    /// One occurrence of formats other than List.
+    void Add(Output& out, const UnknownWord& word, std::uint64_t line, std::uint64_t column);
+
+  private:
+    /// The rest of the line behind the word itself: its suggestions.
+    const std::string& TailOf(const UnknownWord& word);
+    std::string MakeTail(std::wstring_view listed);
+
+    DictionaryStore& store_;
+    SuggestionRules rules_;
+    const CheckOptions& options_;
+    Colour colour_;
+    std::string file_;  // as it is printed
+    std::unordered_map<std::wstring, std::string> tails_;
+    std::vector<const std::string*> tail_by_index_;  // of this file's words
+};
+
+}  // namespace wordhawk

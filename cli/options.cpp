@@ -1,0 +1,240 @@
+#include "cli/options.h"
+
+#include "app/version.h"
+#include "cli/output.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <charconv>
+
+namespace wordhawk {
+namespace {
+
+/// Texts of --set and --flag before they are cut at "=".
+struct RawOverrides {
+    std::vector<std::string> settings;
+    std::vector<std::string> flags;
+};
+
+/// One option that takes one value each time it is given; a word behind the value is a command.
+template <class T>
+CLI::Option* OneValueEachTime(CLI::App& app, const std::string& name, std::vector<T>& values,
+                              const std::string& help) {
+    return app.add_option(name, values, help)
+        ->allow_extra_args(false)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
+void AddGlobalOptions(CLI::App& app, GlobalOptions& global, RawOverrides& raw) {
+    app.add_option("--data", global.data_folder, "Data folder (default: the user's own)")
+        ->type_name("DIR");
+    app.add_option("--locale", global.locale,
+                   "Locale number whose dictionaries are used, such as 1033 or 1031 (default: the system's)")
+        ->type_name("N")
+        ->check(CLI::Range(1, 65535));
+    OneValueEachTime(app, "--set", raw.settings, "Use VALUE for setting KEY in this run")
+        ->type_name("KEY=VALUE");
+    OneValueEachTime(app, "--flag", raw.flags, "Use 0 or 1 for delimiter flag N (1 to 255) in this run")
+        ->type_name("N=0|1");
+    app.add_flag_callback(
+        "--no-install", [&global] { global.install = false; },
+        "Do not copy shipped dictionaries and language files into the data folder");
+    app.set_version_flag("--version", "wordhawk-cli " WORDHAWK_VERSION, "Print the version and exit");
+}
+
+void AddCheck(CLI::App& app, CheckOptions& check) {
+    CLI::App* const command = app.add_subcommand("check", "Print the unknown words of texts");
+    command->add_option("FILE", check.files,
+                        "Text or rich-text (.rtf) files; standard input without FILE or for -");
+    const auto format = [&check](CheckFormat chosen) { return [&check, chosen] { check.format = chosen; }; };
+    auto* const formats = command->add_option_group("Output", "What is printed (one of)");
+    formats->add_flag_callback("--list", format(CheckFormat::List), "Each unknown word once, in the order found");
+    formats->add_flag_callback("--json", format(CheckFormat::Json), "One JSON object for each occurrence");
+    formats->add_flag_callback("-l,--words", format(CheckFormat::Words),
+                               "Each occurrence as it is written, and exit with 0, as ispell -l");
+    formats->require_option(0, 1);
+    command->add_option("--max-suggestions", check.max_suggestions,
+                        "Suggestions shown for a word, 0 for all (default 5)")
+        ->type_name("N")
+        ->check(CLI::Range(0, 1000000));
+    command->add_flag_callback("--no-suggestions", [&check] { check.suggestions = false; },
+                               "Do not look for suggestions");
+    command->add_flag("--exit-zero", check.exit_zero, "Exit with 0 even when there are unknown words");
+    command->add_option("-j,--jobs", check.jobs, "Files checked at the same time (default 1)")
+        ->type_name("N")
+        ->check(CLI::Range(1, 256));
+    command->footer(
+        "Prints FILE:LINE:COLUMN: WORD -> SUGGESTION (SCORE%), ... for each unknown word.\n"
+        "Exit code: 0 no unknown word, 1 some, 2 error.\n\nExamples:\n"
+        "  wordhawk-cli check letter.txt report.rtf\n"
+        "  wordhawk-cli --locale 1031 check --list brief.txt\n"
+        "  git log -1 --format=%B | wordhawk-cli check -\n"
+        "  wordhawk-cli check -j 4 --json docs/*.txt > unknown.jsonl");
+}
+
+void AddWordCommands(CLI::App& app, Options& options) {
+    CLI::App* const suggest = app.add_subcommand("suggest", "Print suggestions for words");
+    suggest->add_option("WORD", options.words.words, "Words");
+    suggest->add_flag("--stdin", options.words.from_input, "Read words from standard input, one a line");
+    suggest->footer(
+        "Prints WORD, SUGGESTION, SCORE and * (on the best), separated by tabs.\n\nExamples:\n"
+        "  wordhawk-cli suggest recieve beleive\n"
+        "  wordhawk-cli --set Diversity=3 --set ScoreValue=70 suggest adress\n"
+        "  wordhawk-cli check --list draft.txt | wordhawk-cli suggest --stdin");
+
+    CLI::App* const explain =
+        app.add_subcommand("explain", "Tell how a candidate measures up to a word, and what drops it");
+    explain->add_option("WORD", options.explain.word, "Word as typed")->required();
+    explain->add_option("CANDIDATE", options.explain.candidate, "Dictionary word")->required();
+    explain->add_flag("--json", options.explain.json, "Print one JSON object");
+    explain->footer(
+        "Examples:\n  wordhawk-cli explain recieve receive\n"
+        "  wordhawk-cli --set SortBy=2 explain --json teh the");
+
+    CLI::App* const key = app.add_subcommand("key", "Print dictionary file and phonetic key of words");
+    key->add_option("WORD", options.words.words, "Words");
+    key->add_flag("--stdin", options.words.from_input, "Read words from standard input, one a line");
+    key->footer(
+        "Prints WORD, FILE and KEY, separated by tabs.\n\nExamples:\n"
+        "  wordhawk-cli key hello\n  wordhawk-cli key --stdin < words.txt");
+}
+
+void AddDictionaryCommands(CLI::App& app, Options& options) {
+    CLI::App* const add = app.add_subcommand("add", "Add words to a dictionary");
+    add->add_option("WORD", options.add.words, "Words")->required();
+    CLI::Option* const to_main =
+        add->add_flag("--main", options.add.to_main, "Into the main dictionary of the language");
+    add->add_option("--custom", options.add.custom, "Into this custom dictionary (made when missing)")
+        ->type_name("NAME")
+        ->excludes(to_main);
+    add->footer(
+        "Without --main or --custom the words go into the active custom dictionary.\n\nExamples:\n"
+        "  wordhawk-cli add Wordhawk spellchecker\n  wordhawk-cli add --custom names.dic Ostrowska");
+
+    CLI::App* const remove = app.add_subcommand("remove", "Remove words from the dictionaries");
+    remove->add_option("WORD", options.words.words, "Words")->required();
+    remove->footer(
+        "Each word is removed from the first dictionary that holds it, the main one before custom ones.\n"
+        "Prints WORD and the changed file; exits with 1 when a word was in none.\n\nExamples:\n"
+        "  wordhawk-cli remove spellchecker");
+
+    CLI::App* const import = app.add_subcommand("import", "Make a custom dictionary of a file's new words");
+    import->add_option("FILE", options.import_file, "Word list, one word a line")->required();
+    import->footer(
+        "Prints the number of words added. Flags 249 and 250 say whether words of the main and of the\n"
+        "custom dictionaries are left out.\n\nExamples:\n"
+        "  wordhawk-cli import medical.dic\n  wordhawk-cli --flag 250=0 import names.dic");
+
+    CLI::App* const list = app.add_subcommand("dictionaries", "List main and custom dictionaries");
+    list->add_option("--activate", options.activate, "First make this custom dictionary one that is searched")
+        ->type_name("NAME");
+    list->footer(
+        "Prints main or custom, NAME, number of words and * (in use), separated by tabs.\n\nExamples:\n"
+        "  wordhawk-cli dictionaries\n  wordhawk-cli dictionaries --activate MEDICAL.DIC");
+
+    CLI::App* const build =
+        app.add_subcommand("build-dictionary", "Write main dictionary files from plain word lists");
+    build->add_option("WORDLIST", options.build.word_lists, "Lists, one word a line, UTF-8 or ANSI")->required();
+    build->add_option("--output", options.build.output, "Folder that gets the files")
+        ->required()
+        ->type_name("DIR");
+    build->add_option("--code-page", options.build.code_page, "Windows code page of the language (default 1252)")
+        ->type_name("N")
+        ->check(CLI::IsMember({874, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258}));
+    build->add_flag("--pieces", options.build.pieces,
+                    "Also write the parts that apostrophes and delimiters cut words into");
+    OneValueEachTime(*build, "--exclude", options.build.excluded, "Leave out the words of this list")
+        ->type_name("FILE");
+    build->footer(
+        "Examples:\n"
+        "  wordhawk-cli build-dictionary --output Dictionarys/1033 /usr/share/dict/american-english\n"
+        "  wordhawk-cli build-dictionary --output 1045 --code-page 1250 polish.txt");
+}
+
+std::optional<int> WholeNumber(std::string_view text) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+/// Cuts the texts of --set and --flag; the message about the first wrong one, or nothing.
+std::string CutOverrides(const RawOverrides& raw, GlobalOptions& global) {
+    for (const std::string& text : raw.settings) {
+        const std::size_t equals = text.find('=');
+        if (equals == std::string::npos || equals == 0) return "--set: " + text + " is not KEY=VALUE";
+        global.settings.emplace_back(text.substr(0, equals), text.substr(equals + 1));
+    }
+    for (const std::string& text : raw.flags) {
+        const std::size_t equals = std::min(text.find('='), text.size());
+        const auto number = WholeNumber(std::string_view(text).substr(0, equals));
+        const std::string_view value = std::string_view(text).substr(std::min(equals + 1, text.size()));
+        if (!number || (value != "0" && value != "1")) return "--flag: " + text + " is not N=0 or N=1";
+        global.flags.emplace_back(*number, value == "1");
+    }
+    return {};
+}
+
+std::optional<Command> CommandNamed(std::string_view name) {
+    constexpr std::pair<std::string_view, Command> kCommands[] = {
+        {"check", Command::Check},           {"suggest", Command::Suggest},
+        {"explain", Command::Explain},       {"key", Command::Key},
+        {"add", Command::Add},               {"remove", Command::Remove},
+        {"import", Command::Import},         {"dictionaries", Command::Dictionaries},
+        {"build-dictionary", Command::BuildDictionary}, {"pipe", Command::Pipe}};
+    for (const auto& [known, command] : kCommands) {
+        if (known == name) return command;
+    }
+    return std::nullopt;
+}
+
+ParsedCommandLine Wrong(const std::string& message) {
+    return {std::nullopt, MessageLine(message) + MessageLine("--help tells more"), kExitFailed};
+}
+
+}  // namespace
+
+ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
+    Options options;
+    RawOverrides raw;
+    CLI::App app("Wordhawk finds words that its dictionaries do not know, and suggests better ones.",
+                 "wordhawk-cli");
+    app.require_subcommand(1);
+    app.fallthrough();
+    app.get_formatter()->column_width(28);
+    app.get_formatter()->label("Subcommands", "Commands");
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    AddGlobalOptions(app, options.global, raw);
+    AddCheck(app, options.check);
+    AddWordCommands(app, options);
+    AddDictionaryCommands(app, options);
+    CLI::App* const pipe =
+        app.add_subcommand("pipe", "Speak the line protocol of ispell -a, for editors (also: -a)");
+    pipe->allow_extras();
+    pipe->footer("Examples:\n  echo '^Ths is a tset' | wordhawk-cli pipe\n"
+                 "  emacs --eval '(setq ispell-program-name \"wordhawk-cli\")'");
+    app.footer(
+        "Each command has its own --help. Exit code: 0 fine, 1 unknown words found, 2 error.\n\nExamples:\n"
+        "  wordhawk-cli check letter.txt\n  wordhawk-cli suggest recieve\n"
+        "  wordhawk-cli add Wordhawk\n  wordhawk-cli --locale 1031 check brief.rtf");
+
+    try {
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() != 0) return Wrong(error.what());
+        std::ostringstream text;
+        app.exit(error, text, text);
+        return {std::nullopt, text.str(), kExitFine};
+    }
+    if (std::string wrong = CutOverrides(raw, options.global); !wrong.empty()) return Wrong(wrong);
+    options.command = *CommandNamed(app.get_subcommands().front()->get_name());
+    const bool needs_words = options.command == Command::Suggest || options.command == Command::Key;
+    if (needs_words && options.words.words.empty() && !options.words.from_input) {
+        return Wrong("no WORD is given, and not --stdin");
+    }
+    return {std::move(options), {}, 0};
+}
+
+}  // namespace wordhawk

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace wordhawk {
+
+/// Options that every command takes; all text is UTF-8.
+struct GlobalOptions {
+    std::string data_folder;
+    int locale = 0;
+    std::vector<std::pair<std::string, std::string>> settings;
+    std::vector<std::pair<int, int>> flags;
+    bool install = true;
+};
+
+enum class CheckFormat { Lines, List, Json, Words };
+
+struct CheckOptions {
+    std::vector<std::string> files;
+    CheckFormat format = CheckFormat::Lines;
+    bool suggestions = true;
+    /// 0: as many as there are.
+    int max_suggestions = 5;
+    int jobs = 1;
+    bool exit_zero = false;
+};
+
+/// Words from the command line, or one a line from standard input.
+struct WordOptions {
+    std::vector<std::string> words;
+    bool from_input = false;
+};
+
+struct ExplainOptions {
+    std::string word;
+    std::string candidate;
+    bool json = false;
+};
+
+struct AddOptions {
+    std::vector<std::string> words;
+    bool to_main = false;
+    /// Name of a custom dictionary; empty: the active one.
+    std::string custom;
+};
+
+struct BuildOptionsOfCommand {
+    std::string output;
+    int code_page = 1252;
+    bool pieces = false;
+    std::vector<std::string> excluded;
+    std::vector<std::string> word_lists;
+};
+
+enum class Command {
+    Check,
+    Suggest,
+    Explain,
+    Key,
+    Add,
+    Remove,
+    Import,
+    Dictionaries,
+    BuildDictionary,
+    Pipe,
+};
+
+struct Options {
+    GlobalOptions global;
+    Command command = Command::Check;
+    CheckOptions check;
+    WordOptions words;  ///< of suggest, key, remove
+    ExplainOptions explain;
+    AddOptions add;
+    std::string import_file;
+    std::string activate;  ///< of dictionaries
+    BuildOptionsOfCommand build;
+};
+
+/// Either what to do, or a text to print at once and the code to exit with: on stdout when the code
+/// is 0 (help, version), else on stderr.
+struct ParsedCommandLine {
+    std::optional<Options> options;
+    std::string text;
+    int exit_code = 0;
+};
+
+ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments);
+
+/// The line that ispell clients read to see whom they speak with.
+extern const std::string kIspellBanner;
+
+/// Whether the arguments are those that programs start ispell with: a "-a", "-l" or "-v" where a
+/// command would stand.
+bool IsIspellCommandLine(const std::vector<std::string>& arguments);
+
+/// Reads ispell's arguments; those that mean nothing here are passed over.
+ParsedCommandLine ParseIspellCommandLine(const std::vector<std::string>& arguments);
+
+}  // namespace wordhawk

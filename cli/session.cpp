@@ -1,0 +1,71 @@
+#include "cli/session.h"
+
+#include "cli/console.h"
+#include "cli/output.h"
+
+#include <algorithm>
+
+namespace wordhawk {
+namespace {
+
+ProgramOptions ToProgramOptions(const GlobalOptions& options) {
+    ProgramOptions program;
+    if (!options.data_folder.empty()) program.data_folder = PathFromArgument(options.data_folder);
+    program.locale = options.locale;
+    program.install_dictionaries = options.install;
+    for (const auto& [key, value] : options.settings) {
+        program.setting_overrides.emplace_back(FromUtf8(key), FromUtf8(value));
+    }
+    program.flag_overrides = options.flags;
+    return program;
+}
+
+}  // namespace
+
+Answer StderrUi::ShowMessage(std::wstring_view text, std::wstring_view, MessageIcon,
+                             MessageButtons buttons) {
+    std::string line = ToUtf8(text);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    std::erase(line, '\r');
+    ShowMessageLine(MessageLine(line));
+    switch (buttons) {
+        case MessageButtons::Ok: return Answer::Ok;
+        case MessageButtons::YesNo: return Answer::Yes;
+        case MessageButtons::YesNoDefaultNo: return Answer::No;
+    }
+    return Answer::Ok;
+}
+
+Session::Session(const GlobalOptions& options) : program(ToProgramOptions(options), ui) {}
+
+std::optional<std::string> WrongOverride(const GlobalOptions& options) {
+    for (const auto& [key, value] : options.settings) {
+        if (modRegs::FindRow(FromUtf8(key)) != nullptr) continue;
+        std::string known;
+        for (const auto& row : modRegs::Rows()) known += (known.empty() ? "" : ", ") + ToUtf8(row.key);
+        return "--set: no setting is called " + key + " (there are " + known + ")";
+    }
+    for (const auto& [number, value] : options.flags) {
+        if (number >= 1 && number <= DelimiterFlagStore::kCount) continue;
+        return "--flag: there is no flag " + std::to_string(number) + " (1 to 255)";
+    }
+    return std::nullopt;
+}
+
+bool HasDictionaries(Program& program) {
+    std::error_code error;
+    std::filesystem::directory_iterator entry(program.state.LanguageDictFolder, error);
+    for (const std::filesystem::directory_iterator end; !error && entry != end; entry.increment(error)) {
+        if (EqualIgnoringCase(TextFromPath(entry->path().extension()), L".dic")) return true;
+    }
+    return std::any_of(program.settings.CustomDictionaries.begin(), program.settings.CustomDictionaries.end(),
+                       [&](const std::wstring& name) { return IsFile(program.dictionaries.CustomPath(name)); });
+}
+
+std::string NoDictionariesLine(const Program& program) {
+    return MessageLine(PathForMessage(program.state.LanguageDictFolder),
+                       "no dictionary is installed for language " + ToUtf8(program.state.LanguageId) +
+                           "; choose another with --locale, or make one with build-dictionary");
+}
+
+}  // namespace wordhawk

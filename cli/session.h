@@ -1,0 +1,37 @@
+#pragma once
+
+#include "cli/options.h"
+#include "engine/program.h"
+#include "platform/ui_services.h"
+
+#include <memory>
+
+namespace wordhawk {
+
+/// Messages of the core as lines on stderr; questions are answered with their default.
+class StderrUi : public UiServices {
+  public:
+    Answer ShowMessage(std::wstring_view text, std::wstring_view title, MessageIcon icon,
+                       MessageButtons buttons) override;
+    void Beep() override {}
+    void SetBusy(bool) override {}
+};
+
+/// What a command works with: the program over the data folder that the options name.
+struct Session {
+    explicit Session(const GlobalOptions& options);
+
+    StderrUi ui;
+    Program program;
+};
+
+/// Checks names and values of --set and --flag; the message of the first wrong one, or nothing.
+std::optional<std::string> WrongOverride(const GlobalOptions& options);
+
+/// Whether the language in force has any dictionary file, or the user any custom one.
+bool HasDictionaries(Program& program);
+
+/// The line that says that there are none.
+std::string NoDictionariesLine(const Program& program);
+
+}  // namespace wordhawk

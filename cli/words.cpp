@@ -1,0 +1,79 @@
+#include "cli/commands.h"
+#include "cli/output.h"
+#include "cli/session.h"
+#include "cli/word_input.h"
+#include "dict/custom_words.h"
+#include "dict/dictionary_names.h"
+
+namespace wordhawk {
+namespace {
+
+/// Why a dictionary line cannot hold the word; empty when it can.
+std::string Objection(std::wstring_view word, const AnsiCodePage& page) {
+    if (word.empty()) return "an empty word cannot be added";
+    for (const wchar_t c : word) {
+        if (static_cast<std::uint32_t>(c) < 0x20 || c == L',') {
+            return "a word with a comma or a control character cannot be added";
+        }
+        if (page.ToByteOrNone(LowerChar(c)) < 0) {
+            return "the dictionaries of this language, in code page " + std::to_string(page.Number()) +
+                   ", cannot hold the word";
+        }
+    }
+    return {};
+}
+
+int Fail(const std::string& line) {
+    ShowMessageLine(line);
+    return kExitFailed;
+}
+
+}  // namespace
+
+int RunAdd(const GlobalOptions& global, const AddOptions& options) {
+    Session session(global);
+    DictionaryStore& store = session.program.dictionaries;
+    std::vector<std::wstring> words;
+    for (const std::string& argument : options.words) {
+        const std::wstring text = TextOfBytes(argument, store.Page());
+        const std::string objection = Objection(Trim(text), store.Page());
+        if (!objection.empty()) return Fail(MessageLine(argument, objection));
+        words.emplace_back(Trim(text));
+    }
+    AddTarget target = options.to_main ? AddTarget::Main : AddTarget::ActiveCustom;
+    Path path;
+    if (!options.custom.empty()) {
+        const auto name = CustomDictionaryName(FromUtf8(options.custom));
+        if (!name) return Fail(MessageLine(options.custom, ToUtf8(name.error().what)));
+        target = AddTarget::ExplicitFile;
+        path = store.CustomPath(*name);
+    }
+    Progress no_progress;
+    const auto added = AddWordsToDictionary(store, words, target, path, no_progress);
+    if (!added) return Fail(MessageLine(added.error()));
+    return kExitFine;
+}
+
+int RunRemove(const GlobalOptions& global, const WordOptions& options) {
+    Session session(global);
+    DictionaryStore& store = session.program.dictionaries;
+    Output out(stdout);
+    int exit_code = kExitFine;
+    for (const std::string& argument : options.words) {
+        const std::wstring text = TextOfBytes(argument, store.Page());
+        const std::wstring_view word = Trim(text);
+        const auto removed = RemoveWordFromDictionaries(store, word);
+        if (!removed) return Fail(MessageLine(removed.error()));
+        if (removed->empty()) {
+            ShowMessageLine(MessageLine(argument, "is in no dictionary"));
+            exit_code = kExitFound;
+        } else {
+            store.ReloadFile(*removed);
+            out << word << '\t' << TextFromPath(removed->filename()) << '\n';
+        }
+    }
+    out.Flush();
+    return out.Failed() ? kExitFailed : exit_code;
+}
+
+}  // namespace wordhawk
