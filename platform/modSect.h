@@ -2,6 +2,7 @@
 
 #include "platform/files.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,11 +25,23 @@ std::wstring ReadSetting(std::wstring_view section, std::wstring_view key,
 bool WriteSetting(std::wstring_view section, std::wstring_view key, std::wstring_view value,
                   const Path& file);
 
+struct KeyAndValue {
+    std::wstring key;
+    std::wstring value;
+};
+
+/// WriteSetting of many values with a single rewrite of the file.
+bool WriteSettings(std::wstring_view section, std::span<const KeyAndValue> values,
+                   const Path& file);
+
 /// All "key=value" texts of a section in file order, of any length. An empty or missing section
 /// gives one empty text.
 std::vector<std::wstring> ReadSection(const Path& file, std::wstring_view section);
 
 /// The part before the first NUL, or the whole text.
 std::wstring_view StripNull(std::wstring_view text);
+
+/// The part before the first CR or LF: a value with line ends would add lines of its own.
+std::wstring_view OneLine(std::wstring_view text);
 
 }  // namespace wordhawk::modSect

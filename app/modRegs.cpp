@@ -1,0 +1,134 @@
+#include "app/modRegs.h"
+
+#include "platform/modSect.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace wordhawk::modRegs {
+namespace {
+
+constexpr std::wstring_view kDefaultDictionary = L"CUSTOM.DIC";
+
+/// The number, or 0 where the type cannot hold it.
+template <class Number>
+Number InRangeOrZero(std::wstring_view text) {
+    const std::int32_t number = NumberOrZero(text);
+    const bool fits = number >= std::numeric_limits<Number>::min() &&
+                      number <= std::numeric_limits<Number>::max();
+    return fits ? static_cast<Number>(number) : Number{0};
+}
+
+void Assign(std::uint8_t& member, std::wstring_view text) {
+    member = InRangeOrZero<std::uint8_t>(text);
+}
+void Assign(bool& member, std::wstring_view text) { member = NumberOrZero(text) != 0; }
+// Whole numbers of the settings have 16 bits.
+void Assign(int& member, std::wstring_view text) { member = InRangeOrZero<std::int16_t>(text); }
+void Assign(std::wstring& member, std::wstring_view text) { member = text; }
+
+std::wstring Text(const std::wstring& member) { return member; }
+std::wstring Text(int member) { return std::to_wstring(member); }
+
+enum class Loaded { Always, InProgramModeOnly };
+
+template <auto Member>
+constexpr SettingRow Row(std::wstring_view key, std::wstring_view default_text,
+                         Loaded loaded = Loaded::Always) {
+    return {key, default_text, loaded == Loaded::InProgramModeOnly,
+            [](Settings& settings, std::wstring_view text) { Assign(settings.*Member, text); },
+            [](const Settings& settings) { return Text(settings.*Member); }};
+}
+
+constexpr SettingRow TrimmedConfirmation() {
+    SettingRow row = Row<&Settings::Confirmation>(L"Confirmation", L"");
+    row.assign = [](Settings& settings, std::wstring_view text) {
+        settings.Confirmation = Trim(text);
+    };
+    return row;
+}
+
+constexpr SettingRow NeverEmptyCustomDic() {
+    SettingRow row = Row<&Settings::CustomDic>(L"CustomDic", kDefaultDictionary);
+    row.assign = [](Settings& settings, std::wstring_view text) {
+        settings.CustomDic = text.empty() ? kDefaultDictionary : text;
+    };
+    return row;
+}
+
+constexpr auto kProgramOnly = Loaded::InProgramModeOnly;
+
+constexpr std::array kRows = {
+    TrimmedConfirmation(),
+    Row<&Settings::SuggFromMain>(L"SuggFromMain", L"0"),
+    NeverEmptyCustomDic(),
+    Row<&Settings::ScoreBox>(L"ScoreBox", L"0"),
+    Row<&Settings::IgnoreWebs>(L"IgnoreWebs", L"1"),
+    Row<&Settings::IgnoreUCase>(L"IgnoreUCase", L"1"),
+    Row<&Settings::IgnoreNumbers>(L"IgnoreNumbers", L"1"),
+    Row<&Settings::SortBy>(L"SortBy", L"0", kProgramOnly),
+    Row<&Settings::ClipType>(L"ClipType", L"0", kProgramOnly),
+    Row<&Settings::CheckClip>(L"CheckClip", L"0", kProgramOnly),
+    Row<&Settings::SetClip>(L"SetClip", L"0", kProgramOnly),
+    Row<&Settings::SaveBack>(L"SaveBack", L"0", kProgramOnly),
+    Row<&Settings::OpenSave>(L"OpenSave", L"0", kProgramOnly),
+    Row<&Settings::RemainOpen>(L"RemainOpen", L"0", kProgramOnly),
+    Row<&Settings::OpenWOptions>(L"OpenWOptions", L"0"),
+    Row<&Settings::ScoreValue>(L"ScoreValue", L"80"),
+    Row<&Settings::Diversity>(L"Diversity", L"2"),
+    Row<&Settings::ExtraDiversity>(L"ExtraDiversity", L"0"),
+    Row<&Settings::PrefTab>(L"PrefTab", L"0"),
+    Row<&Settings::Language>(L"Language", L""),
+};
+
+}  // namespace
+
+std::span<const SettingRow> Rows() { return kRows; }
+
+const SettingRow* FindRow(std::wstring_view key) {
+    const auto has_key = [&](const SettingRow& row) { return EqualIgnoringCase(row.key, key); };
+    const auto row = std::find_if(kRows.begin(), kRows.end(), has_key);
+    return row == kRows.end() ? nullptr : &*row;
+}
+
+Settings LoadSettings(const ProgramState& state) {
+    Settings settings;
+    for (const SettingRow& row : kRows) {
+        if (row.program_only && !state.ProgramMode) continue;
+        row.assign(settings, modSect::ReadSetting(kSettingsSection, row.key, row.default_text,
+                                                  state.SettingsFile));
+    }
+    LoadCustomDictionaryList(state, settings);
+    return settings;
+}
+
+void LoadCustomDictionaryList(const ProgramState& state, Settings& settings) {
+    settings.CustomDictionaries.clear();
+    for (const std::wstring& entry :
+         modSect::ReadSection(state.SettingsFile, kDictionariesSection)) {
+        const std::size_t equals = entry.find(L'=');
+        if (equals == entry.npos || equals + 1 == entry.size()) continue;
+        settings.CustomDictionaries.push_back(entry.substr(equals + 1));
+    }
+    if (settings.CustomDictionaries.empty()) {
+        settings.CustomDictionaries.emplace_back(kDefaultDictionary);
+        settings.CustomDic = kDefaultDictionary;
+    }
+}
+
+bool SaveCustomDictionaryList(const ProgramState& state, std::span<const std::wstring> names) {
+    const std::wstring default_name(kDefaultDictionary);
+    if (names.empty()) names = std::span(&default_name, 1);
+    std::vector<modSect::KeyAndValue> values;
+    for (const std::wstring& name : names) values.push_back({std::to_wstring(values.size()), name});
+    return modSect::WriteSettings(kDictionariesSection, values, state.SettingsFile);
+}
+
+bool SaveSetting(const ProgramState& state, const Settings& settings, std::wstring_view key) {
+    const SettingRow* row = FindRow(key);
+    return row && modSect::WriteSetting(kSettingsSection, row->key, row->text(settings),
+                                        state.SettingsFile);
+}
+
+}  // namespace wordhawk::modRegs

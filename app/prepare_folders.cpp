@@ -1,0 +1,42 @@
+#include "app/prepare_folders.h"
+
+#include "app/version.h"
+#include "platform/folders.h"
+#include "platform/locale_ids.h"
+
+namespace wordhawk {
+
+Path ComputeDataFolder() {
+    const Path application_data = SpecialFolder(kApplicationDataFolder);
+    if (application_data.empty()) return {};
+    return application_data / WORDHAWK_COMPANY / WORDHAWK_PRODUCT;
+}
+
+void PrepareFolders(ProgramState& state) {
+    const int locale = state.LocaleOverride != 0 ? state.LocaleOverride : SystemDefaultLocale();
+    state.LanguageId = std::to_wstring(locale);
+    if (state.DataFolder.empty()) state.DataFolder = ComputeDataFolder();
+    state.SettingsFile = state.DataFolder / "Wordhawk.ini";
+
+    const Path dictionaries = state.DataFolder / "Dictionarys";
+    const Path resources = state.ResourcesFolder();
+    const Path language = PathFromText(state.LanguageId);
+    for (const Path& folder : {
+             dictionaries,
+             state.CustomFolder(),
+             dictionaries / language,
+             dictionaries / "1033",
+             resources,
+             resources / "1033",
+             resources / language,
+             state.DataFolder / "Sounds",
+             state.DataFolder / "Saves",
+         }) {
+        MakeFolder(folder);
+    }
+    state.LanguageDictFolder = dictionaries / language;
+    // The interface language is chosen by the caller, since its texts are a layer above this one.
+    state.FoldersReady = true;
+}
+
+}  // namespace wordhawk

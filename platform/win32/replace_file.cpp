@@ -1,0 +1,101 @@
+#include "platform/replace_file.h"
+
+#include "platform/win32/errors.h"
+#include "platform/win32/handle.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace wordhawk {
+namespace {
+
+/// The file that a symbolic link ends at; the path itself when it is none.
+Path FollowLinks(const Path& path, DWORD attributes) {
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT)) {
+        return path;
+    }
+    const FileHandle file(CreateFileW(SystemPath(path).c_str(), 0,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, 0, nullptr));
+    if (!file) return path;
+    std::wstring target(32768, L'\0');
+    const DWORD length = GetFinalPathNameByHandleW(
+        file.Get(), target.data(), static_cast<DWORD>(target.size()), FILE_NAME_NORMALIZED);
+    if (length == 0 || length >= target.size()) return path;
+    target.resize(length);
+    return target;
+}
+
+/// A name that no other writer uses, short whatever the target is called.
+Path TemporaryBeside(const Path& target) {
+    static std::atomic<unsigned> counter{0};
+    return target.parent_path() / (L".wordhawk-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                                   std::to_wstring(++counter) + L".tmp");
+}
+
+/// Writes everything and brings it to the disk; ERROR_SUCCESS or the first failure.
+DWORD WriteAll(const FileHandle& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        constexpr std::size_t kLargestWrite = 1u << 30;
+        const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kLargestWrite));
+        DWORD written = 0;
+        if (!WriteFile(file.Get(), bytes.data(), wanted, &written, nullptr)) return GetLastError();
+        bytes.remove_prefix(written);
+    }
+    return FlushFileBuffers(file.Get()) ? ERROR_SUCCESS : GetLastError();
+}
+
+/// Renames over the target. Virus scanners and indexers open a fresh file for moments, which makes
+/// the first tries fail.
+DWORD RenameOver(const std::wstring& temporary, const std::wstring& target) {
+    DWORD failure = ERROR_SUCCESS;
+    for (const DWORD pause : {5, 20, 50, 100, 200, 0}) {
+        if (MoveFileExW(temporary.c_str(), target.c_str(),
+                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+            return ERROR_SUCCESS;
+        }
+        failure = GetLastError();
+        if (failure != ERROR_SHARING_VIOLATION && failure != ERROR_ACCESS_DENIED &&
+            failure != ERROR_LOCK_VIOLATION) {
+            break;
+        }
+        Sleep(pause);
+    }
+    return failure;
+}
+
+}  // namespace
+
+Result<void> ReplaceFileContents(const Path& path, std::string_view bytes) {
+    const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
+    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+    if (exists && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return tl::unexpected(Error{L"this is a folder, not a file", path});
+    }
+    const Path target = FollowLinks(path, attributes);
+    const std::wstring target_text = SystemPath(target);
+    const DWORD target_attributes = GetFileAttributesW(target_text.c_str());
+    if (exists && (target_attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+        return tl::unexpected(Error{L"the file is read-only", path});
+    }
+
+    const std::wstring temporary = SystemPath(TemporaryBeside(target));
+    FileHandle file(CreateFileW(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file) return tl::unexpected(ErrorFromCode(GetLastError(), path));
+    DWORD failure = WriteAll(file, bytes);
+    file.Reset();
+    if (failure == ERROR_SUCCESS && exists) {
+        // Hidden and the like stay as they were; not worth failing for.
+        constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+        SetFileAttributesW(temporary.c_str(), (target_attributes & kKept) | FILE_ATTRIBUTE_ARCHIVE);
+    }
+    if (failure == ERROR_SUCCESS) failure = RenameOver(temporary, target_text);
+    if (failure != ERROR_SUCCESS) {
+        DeleteFileW(temporary.c_str());
+        return tl::unexpected(ErrorFromCode(failure, path));
+    }
+    return {};
+}
+
+}  // namespace wordhawk
