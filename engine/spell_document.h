@@ -35,7 +35,8 @@ class SpellDocument {
     virtual void ReplaceSelection(std::wstring_view text) = 0;
     /// Replaces the stretches of `length` units at `starts` (offsets in the text as it is now,
     /// ascending, without overlap), all of it as one step of undo.
-    virtual void ReplaceAll(std::span<const std::size_t> starts, std::size_t length, std::wstring_view text) = 0;
+    virtual void ReplaceAll(std::span<const std::size_t> starts, std::size_t length,
+                            std::wstring_view text) = 0;
 };
 
 }  // namespace wordhawk

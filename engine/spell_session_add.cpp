@@ -2,7 +2,6 @@
 
 #include "engine/captions.h"
 #include "engine/spell_session.h"
-#include "platform/text.h"
 
 #include <algorithm>
 #include <set>
@@ -11,32 +10,12 @@
 namespace wordhawk {
 namespace {
 
+/// Delimiter flag that asks for the question below.
 constexpr int kWarnBeforeMainAdd = 254;
 
 AddTarget TargetOf(AddIndex index) {
     return index == AddIndex::Main ? AddTarget::Main : AddTarget::ActiveCustom;
 }
-
-/// Passes everything on and remembers whether the user asked to stop.
-class StopWatcher : public Progress {
-  public:
-    explicit StopWatcher(Progress& inner) : inner_(inner) {}
-    void Show(std::wstring_view title) override { inner_.Show(title); }
-    void Hide() override { inner_.Hide(); }
-    void SetCaption(std::wstring_view caption) override { inner_.SetCaption(caption); }
-    void SetRange(std::uint64_t maximum) override { inner_.SetRange(maximum); }
-    void SetPosition(std::uint64_t position) override { inner_.SetPosition(position); }
-    bool YieldAndAskCancel() override {
-        const bool stop = inner_.YieldAndAskCancel();
-        stopped_ |= stop;
-        return stop;
-    }
-    bool Stopped() const { return stopped_; }
-
-  private:
-    Progress& inner_;
-    bool stopped_ = false;
-};
 
 bool HasEntry(const Path& file, std::wstring_view word, const AnsiCodePage& page) {
     const Result<std::string> bytes = ReadWholeFile(file);
@@ -67,7 +46,7 @@ SessionStep SpellSession::AddTo(std::wstring_view custom_name) {
 SessionStep SpellSession::AddCurrent(AddIndex index, AddTarget target, Path path) {
     DictionaryStore& dictionaries = parts_.dictionaries;
     AddedWord added{current_, index, {}, false};
-    added.file = AdditionFile(dictionaries, Lower(current_), target, path);
+    added.file = AdditionFile(dictionaries, current_, target, path);
     added.already_there = HasEntry(added.file, added.word, dictionaries.Page());
 
     const std::optional<std::size_t> removed = RemoveCurrentEntry();
@@ -95,17 +74,16 @@ SessionStep SpellSession::AddAll(AddIndex index, Progress& progress) {
     Path path;
     std::set<Path> files;
     for (const std::wstring& word : words_) {
-        files.insert(AdditionFile(dictionaries, Lower(word), target, path));
+        files.insert(AdditionFile(dictionaries, word, target, path));
     }
-    StopWatcher watcher(progress);
     Result<void> outcome;
     {
         const Hourglass busy(parts_.ui);
-        outcome = AddWordsToDictionary(dictionaries, words_, target, path, watcher);
+        outcome = AddWordsToDictionary(dictionaries, words_, target, path, progress);
         for (const Path& file : files) dictionaries.ReloadFile(file);
     }
     SessionStep step;
-    if (watcher.Stopped()) {
+    if (dictionaries.State().StopFlag) {
         KeepUnknownWords(index);
         step = SelectNextWord();
         step.refill = true;
