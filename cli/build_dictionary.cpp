@@ -11,8 +11,10 @@ int RunBuildDictionary(const BuildOptionsOfCommand& options) {
     build.page = &AnsiCodePage::Get(options.code_page);
     // The apostrophe is no delimiter of its own, but its typographic sisters are: where a text has
     // those, "isn't" is checked as "isn".
-    if (options.pieces) build.piece_delimiters = BuildDelimiters(DelimiterFlagStore(), *build.page) + L"'";
-    for (const std::string& list : options.excluded) build.excluded_lists.push_back(PathFromArgument(list));
+    if (options.pieces)
+        build.piece_delimiters = BuildDelimiters(DelimiterFlagStore(), *build.page) + L"'";
+    for (const std::string& list : options.excluded)
+        build.excluded_lists.push_back(PathFromArgument(list));
     std::vector<Path> word_lists;
     for (const std::string& list : options.word_lists) word_lists.push_back(PathFromArgument(list));
 

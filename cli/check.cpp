@@ -45,12 +45,14 @@ class FileChecker {
         FileResult result;
         const bool from_input = file == "-";
         const std::string name = from_input ? "<stdin>" : file;
-        auto source = from_input ? ByteSource::StandardInput() : ByteSource::OpenFile(PathFromArgument(file));
+        auto source =
+            from_input ? ByteSource::StandardInput() : ByteSource::OpenFile(PathFromArgument(file));
         if (!source) {
             result.error_line = MessageLine(name, ToUtf8(source.error().what));
             return result;
         }
-        TextBlocks blocks(std::move(*source), IsRichTextName(file) ? DocumentKind::RichText : DocumentKind::ByContent,
+        TextBlocks blocks(std::move(*source),
+                          IsRichTextName(file) ? DocumentKind::RichText : DocumentKind::ByContent,
                           *state_.CodePage);
         TextChecker checker(store_, rules_);
         report_.BeginFile(name);
@@ -128,8 +130,8 @@ class Summary {
 };
 
 /// Checks every file on several threads; what they print comes out in the files' order.
-void CheckSideBySide(const Program& program, const CheckOptions& options, Colour colour, Output& out,
-                     Summary& summary) {
+void CheckSideBySide(const Program& program, const CheckOptions& options, Colour colour,
+                     Output& out, Summary& summary) {
     struct Slot {
         Output text{nullptr};
         FileResult result;

@@ -9,18 +9,23 @@ void CheckReport::BeginFile(std::string_view name) {
     tail_by_index_.clear();
 }
 
-void CheckReport::Add(Output& out, const UnknownWord& word, std::uint64_t line, std::uint64_t column) {
+void CheckReport::Add(Output& out, const UnknownWord& word, std::uint64_t line,
+                      std::uint64_t column) {
     switch (options_.format) {
-        case CheckFormat::List: break;
-        case CheckFormat::Words: out << word.text << '\n'; break;
+        case CheckFormat::List:
+            break;
+        case CheckFormat::Words:
+            out << word.text << '\n';
+            break;
         case CheckFormat::Json:
             out << "{\"file\": " << file_ << ", \"line\": " << line << ", \"column\": " << column
-                << ", \"word\": " << JsonString(word.text) << ", \"suggestions\": " << TailOf(word) << "}\n";
+                << ", \"word\": " << JsonString(word.text) << ", \"suggestions\": " << TailOf(word)
+                << "}\n";
             break;
         case CheckFormat::Lines:
             if (colour_ == Colour::On) {
-                out << "\x1b[35m" << file_ << "\x1b[0m:" << line << ':' << column << ": \x1b[1;31m" << word.text
-                    << "\x1b[0m";
+                out << "\x1b[35m" << file_ << "\x1b[0m:" << line << ':' << column << ": \x1b[1;31m"
+                    << word.text << "\x1b[0m";
             } else {
                 out << file_ << ':' << line << ':' << column << ": " << word.text;
             }

@@ -21,7 +21,8 @@ enum class Colour { Off, On };
 /// distinct word, whatever the number of files.
 class CheckReport {
   public:
-    CheckReport(DictionaryStore& store, const SuggestionRules& rules, const CheckOptions& options, Colour colour)
+    CheckReport(DictionaryStore& store, const SuggestionRules& rules, const CheckOptions& options,
+                Colour colour)
         : store_(store), rules_(rules), options_(options), colour_(colour) {}
 
     /// What follows is about this file, named as the user named it (UTF-8).

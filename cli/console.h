@@ -28,8 +28,8 @@ bool IsTerminal(Stream stream);
 /// negative after an error. What is typed at a Windows console arrives as UTF-8.
 std::ptrdiff_t ReadStandardInput(char* buffer, std::size_t size);
 
-/// Bytes pass the standard streams unchanged, and a Windows console shows UTF-8 (and colours), while
-/// the object lives.
+/// Bytes pass the standard streams unchanged, and a Windows console shows UTF-8 (and colours),
+/// while the object lives.
 class ConsoleMode {
   public:
     ConsoleMode();

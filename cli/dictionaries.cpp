@@ -20,7 +20,8 @@ std::size_t CountEntries(const Path& file) {
 
 std::size_t CountEntriesOfFolder(const Path& folder) {
     std::size_t words = 0;
-    for (const std::wstring& name : ListFiles(folder, L".dic")) words += CountEntries(folder / PathFromText(name));
+    for (const std::wstring& name : ListFiles(folder, L".dic"))
+        words += CountEntries(folder / PathFromText(name));
     return words;
 }
 
@@ -62,8 +63,8 @@ int RunDictionaries(const GlobalOptions& global, const std::string& activate) {
         out << "main\t" << folder << '\t' << words << '\t' << (in_use ? "*\n" : "\n");
     }
     for (const std::wstring& name : ListFiles(program.state.CustomFolder(), L".dic")) {
-        out << "custom\t" << name << '\t' << CountEntries(program.dictionaries.CustomPath(name)) << '\t'
-            << (Holds(program.settings.CustomDictionaries, name) ? "*\n" : "\n");
+        out << "custom\t" << name << '\t' << CountEntries(program.dictionaries.CustomPath(name))
+            << '\t' << (Holds(program.settings.CustomDictionaries, name) ? "*\n" : "\n");
     }
     out.Flush();
     return out.Failed() ? kExitFailed : kExitFine;

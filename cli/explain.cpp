@@ -23,8 +23,8 @@ struct Explanation {
     std::int32_t score;
 };
 
-Explanation Measure(std::wstring_view word, std::wstring_view candidate, const SuggestionRules& rules,
-                    const AnsiCodePage& page) {
+Explanation Measure(std::wstring_view word, std::wstring_view candidate,
+                    const SuggestionRules& rules, const AnsiCodePage& page) {
     const std::wstring lower = Lower(word);
     cLS distance;
     Explanation result;
@@ -33,7 +33,8 @@ Explanation Measure(std::wstring_view word, std::wstring_view candidate, const S
     result.dictionary_file = GetDictionaryFileName(lower, page);
     result.candidate_file = GetDictionaryFileName(Lower(candidate), page);
     result.distance = distance.LevenshteinDistance(word, candidate, Transposition::NotCounted);
-    result.distance_with_swaps = distance.LevenshteinDistance(word, candidate, Transposition::OneEdit);
+    result.distance_with_swaps =
+        distance.LevenshteinDistance(word, candidate, Transposition::OneEdit);
     result.score = modSimPercent::SimilarityPercent(lower, candidate, result.candidate_key,
                                                     result.word_key, rules.search_mode, page);
     return result;
@@ -58,20 +59,23 @@ std::string DroppedBy(std::wstring_view word, const Explanation& is, const Sugge
     }
     const std::wstring pattern = KeyPattern(is.word_key, rules.search_mode);
     const std::string digits = std::to_string(is.candidate_key);
-    if (rules.search_mode > 2) return "key: there is no search mode " + std::to_string(rules.search_mode);
-    if (!pattern.empty() && !modSimPercent::LikePattern(std::wstring(digits.begin(), digits.end()), pattern)) {
+    if (rules.search_mode > 2)
+        return "key: there is no search mode " + std::to_string(rules.search_mode);
+    if (!pattern.empty() &&
+        !modSimPercent::LikePattern(std::wstring(digits.begin(), digits.end()), pattern)) {
         return "key: " + digits + " does not match " + ToUtf8(pattern);
     }
     if (rules.search_mode == 1 && digits.substr(0, 3) != std::to_string(is.word_key).substr(0, 3)) {
-        return "key: the first three digits of " + digits + " and " + std::to_string(is.word_key) + " differ";
+        return "key: the first three digits of " + digits + " and " + std::to_string(is.word_key) +
+               " differ";
     }
     if (is.score < rules.score_threshold) {
         return "score: " + std::to_string(is.score) + " is below ScoreValue " +
                std::to_string(rules.score_threshold);
     }
     if (is.candidate_file != is.dictionary_file) {
-        return "file: main dictionary words are taken from " + ToUtf8(is.dictionary_file) + " only, this one is in " +
-               ToUtf8(is.candidate_file);
+        return "file: main dictionary words are taken from " + ToUtf8(is.dictionary_file) +
+               " only, this one is in " + ToUtf8(is.candidate_file);
     }
     return {};
 }
@@ -105,9 +109,10 @@ int RunExplain(const GlobalOptions& global, const ExplainOptions& options) {
         out << "}\n";
     } else {
         out << "word                 " << word << "\ncandidate            " << candidate
-            << "\nword_key             " << is.word_key << "\ncandidate_key        " << is.candidate_key
-            << "\ndictionary_file      " << is.dictionary_file << "\ndistance             " << is.distance
-            << "\ndistance_with_swaps  " << is.distance_with_swaps << "\nscore                " << is.score
+            << "\nword_key             " << is.word_key << "\ncandidate_key        "
+            << is.candidate_key << "\ndictionary_file      " << is.dictionary_file
+            << "\ndistance             " << is.distance << "\ndistance_with_swaps  "
+            << is.distance_with_swaps << "\nscore                " << is.score
             << "\ndropped_by           " << (dropped_by.empty() ? "nothing" : dropped_by) << '\n';
     }
     out.Flush();

@@ -1,9 +1,10 @@
+#include "dict/import.h"
+
 #include "cli/commands.h"
 #include "cli/console.h"
 #include "cli/output.h"
 #include "cli/session.h"
 #include "dict/dictionary_names.h"
-#include "dict/import.h"
 
 namespace wordhawk {
 namespace {
@@ -25,13 +26,14 @@ int RunImport(const GlobalOptions& global, const std::string& file) {
     const Path target = program.dictionaries.CustomPath(*name);
     for (const std::wstring& taken : ListFiles(program.state.CustomFolder(), L".dic")) {
         if (EqualIgnoringCase(taken, *name)) {
-            return Fail(MessageLine(PathForMessage(target),
-                                    "a custom dictionary of this name exists; remove or rename it first"));
+            return Fail(
+                MessageLine(PathForMessage(target),
+                            "a custom dictionary of this name exists; remove or rename it first"));
         }
     }
     Progress no_progress;
-    const auto added =
-        ImportDictionary(program.dictionaries, program.flags, source, *name, no_progress, session.ui);
+    const auto added = ImportDictionary(program.dictionaries, program.flags, source, *name,
+                                        no_progress, session.ui);
     if (!added) return Fail(MessageLine(added.error()));
     Output out(stdout);
     out << *added << '\n';

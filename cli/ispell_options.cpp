@@ -12,7 +12,8 @@ constexpr std::string_view kWithValue = "dpwWTLfi";
 
 /// Our own options that may stand before the mode.
 bool TakesNextArgument(std::string_view argument) {
-    return argument == "--data" || argument == "--locale" || argument == "--set" || argument == "--flag";
+    return argument == "--data" || argument == "--locale" || argument == "--set" ||
+           argument == "--flag";
 }
 
 bool IsMode(std::string_view argument) {
@@ -60,8 +61,8 @@ ParsedCommandLine ParseIspellCommandLine(const std::vector<std::string>& argumen
             if (mode.empty()) mode = argument == "-A" ? "-a" : argument;
         } else if (argument.starts_with("--")) {
             const bool is_own = argument == "--no-install" || argument.starts_with("--data=") ||
-                                argument.starts_with("--locale=") || argument.starts_with("--set=") ||
-                                argument.starts_with("--flag=");
+                                argument.starts_with("--locale=") ||
+                                argument.starts_with("--set=") || argument.starts_with("--flag=");
             if (is_own) own.push_back(argument);
         } else if (argument.size() >= 2 && argument[0] == '-') {
             if (kWithValue.find(argument[1]) == std::string_view::npos) continue;

@@ -12,8 +12,8 @@ int RunKey(const GlobalOptions& global, const WordOptions& options) {
     Output out(stdout);
     const auto read = ForEachWord(options, page, [&](std::wstring_view word) {
         const std::wstring lower = Lower(word);
-        out << word << '\t' << GetDictionaryFileName(lower, page) << '\t' << GetPhoneticKey(lower, page)
-            << '\n';
+        out << word << '\t' << GetDictionaryFileName(lower, page) << '\t'
+            << GetPhoneticKey(lower, page) << '\n';
     });
     out.Flush();
     if (!read) ShowMessageLine(MessageLine(read.error()));

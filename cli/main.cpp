@@ -16,17 +16,26 @@ int Run(const Options& options) {
         return kExitFailed;
     }
     switch (options.command) {
-        case Command::Check: return RunCheck(options.global, options.check);
-        case Command::Suggest: return RunSuggest(options.global, options.words);
-        case Command::Explain: return RunExplain(options.global, options.explain);
-        case Command::Key: return RunKey(options.global, options.words);
-        case Command::Add: return RunAdd(options.global, options.add);
-        case Command::Remove: return RunRemove(options.global, options.words);
-        case Command::Import: return RunImport(options.global, options.import_file);
+        case Command::Check:
+            return RunCheck(options.global, options.check);
+        case Command::Suggest:
+            return RunSuggest(options.global, options.words);
+        case Command::Explain:
+            return RunExplain(options.global, options.explain);
+        case Command::Key:
+            return RunKey(options.global, options.words);
+        case Command::Add:
+            return RunAdd(options.global, options.add);
+        case Command::Remove:
+            return RunRemove(options.global, options.words);
+        case Command::Import:
+            return RunImport(options.global, options.import_file);
         case Command::Dictionaries:
             return RunDictionaries(options.global, options.activate);
-        case Command::BuildDictionary: return RunBuildDictionary(options.build);
-        case Command::Pipe: return RunPipe(options.global);
+        case Command::BuildDictionary:
+            return RunBuildDictionary(options.build);
+        case Command::Pipe:
+            return RunPipe(options.global);
     }
     return kExitFailed;
 }
@@ -34,8 +43,9 @@ int Run(const Options& options) {
 int Main(int argc, char** argv) {
     const ConsoleMode console;
     const std::vector<std::string> arguments = CommandLineArguments(argc, argv);
-    const ParsedCommandLine parsed =
-        IsIspellCommandLine(arguments) ? ParseIspellCommandLine(arguments) : ParseCommandLine(arguments);
+    const ParsedCommandLine parsed = IsIspellCommandLine(arguments)
+                                         ? ParseIspellCommandLine(arguments)
+                                         : ParseCommandLine(arguments);
     if (parsed.options) return Run(*parsed.options);
     std::fwrite(parsed.text.data(), 1, parsed.text.size(), parsed.exit_code == 0 ? stdout : stderr);
     return parsed.exit_code;

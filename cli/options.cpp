@@ -18,7 +18,16 @@ struct RawOverrides {
     std::vector<std::string> flags;
 };
 
-/// One option that takes one value each time it is given; a word behind the value is a command.
+/// Limits of a value, without the library's note of them in the help text.
+CLI::Validator Between(int lowest, int highest) {
+    return CLI::Range(lowest, highest).description("");
+}
+
+CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& help) {
+    return app.add_subcommand(name, help)->group("Commands");
+}
+
+/// An option that takes one value each time it is given; a word behind the value is a command.
 template <class T>
 CLI::Option* OneValueEachTime(CLI::App& app, const std::string& name, std::vector<T>& values,
                               const std::string& help) {
@@ -31,40 +40,53 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& global, RawOverrides& raw) {
     app.add_option("--data", global.data_folder, "Data folder (default: the user's own)")
         ->type_name("DIR");
     app.add_option("--locale", global.locale,
-                   "Locale number whose dictionaries are used, such as 1033 or 1031 (default: the system's)")
+                   "Locale number whose dictionaries are used, such as 1033 or 1031 (default: the "
+                   "system's)")
         ->type_name("N")
-        ->check(CLI::Range(1, 65535));
+        ->check(Between(1, 65535));
     OneValueEachTime(app, "--set", raw.settings, "Use VALUE for setting KEY in this run")
         ->type_name("KEY=VALUE");
-    OneValueEachTime(app, "--flag", raw.flags, "Use 0 or 1 for delimiter flag N (1 to 255) in this run")
+    OneValueEachTime(app, "--flag", raw.flags,
+                     "Use 0 or 1 for delimiter flag N (1 to 255) in this run")
         ->type_name("N=0|1");
     app.add_flag_callback(
         "--no-install", [&global] { global.install = false; },
         "Do not copy shipped dictionaries and language files into the data folder");
-    app.set_version_flag("--version", "wordhawk-cli " WORDHAWK_VERSION, "Print the version and exit");
+    app.set_version_flag("--version", "wordhawk-cli " WORDHAWK_VERSION,
+                         "Print the version and exit");
 }
 
 void AddCheck(CLI::App& app, CheckOptions& check) {
-    CLI::App* const command = app.add_subcommand("check", "Print the unknown words of texts");
-    command->add_option("FILE", check.files,
-                        "Text or rich-text (.rtf) files; standard input without FILE or for -");
-    const auto format = [&check](CheckFormat chosen) { return [&check, chosen] { check.format = chosen; }; };
-    auto* const formats = command->add_option_group("Output", "What is printed (one of)");
-    formats->add_flag_callback("--list", format(CheckFormat::List), "Each unknown word once, in the order found");
-    formats->add_flag_callback("--json", format(CheckFormat::Json), "One JSON object for each occurrence");
-    formats->add_flag_callback("-l,--words", format(CheckFormat::Words),
-                               "Each occurrence as it is written, and exit with 0, as ispell -l");
-    formats->require_option(0, 1);
-    command->add_option("--max-suggestions", check.max_suggestions,
-                        "Suggestions shown for a word, 0 for all (default 5)")
+    CLI::App* const command = AddCommand(app, "check", "Print the unknown words of texts");
+    command
+        ->add_option("FILE", check.files,
+                     "Text or rich-text (.rtf) files; standard input without FILE or for -")
+        ->type_name("");
+    const auto format = [&check](CheckFormat chosen) {
+        return [&check, chosen] { check.format = chosen; };
+    };
+    CLI::Option* const list = command->add_flag_callback(
+        "--list", format(CheckFormat::List), "Each unknown word once, in the order found");
+    CLI::Option* const json = command->add_flag_callback("--json", format(CheckFormat::Json),
+                                                         "One JSON object for each occurrence");
+    command
+        ->add_flag_callback("-l,--words", format(CheckFormat::Words),
+                            "Each occurrence as it is written, and exit with 0, as ispell -l")
+        ->excludes(list)
+        ->excludes(json);
+    list->excludes(json);
+    command
+        ->add_option("--max-suggestions", check.max_suggestions,
+                     "Suggestions shown for a word, 0 for all (default 5)")
         ->type_name("N")
-        ->check(CLI::Range(0, 1000000));
-    command->add_flag_callback("--no-suggestions", [&check] { check.suggestions = false; },
-                               "Do not look for suggestions");
-    command->add_flag("--exit-zero", check.exit_zero, "Exit with 0 even when there are unknown words");
+        ->check(Between(0, 1000000));
+    command->add_flag_callback(
+        "--no-suggestions", [&check] { check.suggestions = false; }, "Do not look for suggestions");
+    command->add_flag("--exit-zero", check.exit_zero,
+                      "Exit with 0 even when there are unknown words");
     command->add_option("-j,--jobs", check.jobs, "Files checked at the same time (default 1)")
         ->type_name("N")
-        ->check(CLI::Range(1, 256));
+        ->check(Between(1, 256));
     command->footer(
         "Prints FILE:LINE:COLUMN: WORD -> SUGGESTION (SCORE%), ... for each unknown word.\n"
         "Exit code: 0 no unknown word, 1 some, 2 error.\n\nExamples:\n"
@@ -75,9 +97,10 @@ void AddCheck(CLI::App& app, CheckOptions& check) {
 }
 
 void AddWordCommands(CLI::App& app, Options& options) {
-    CLI::App* const suggest = app.add_subcommand("suggest", "Print suggestions for words");
-    suggest->add_option("WORD", options.words.words, "Words");
-    suggest->add_flag("--stdin", options.words.from_input, "Read words from standard input, one a line");
+    CLI::App* const suggest = AddCommand(app, "suggest", "Print suggestions for words");
+    suggest->add_option("WORD", options.words.words, "Words")->type_name("");
+    suggest->add_flag("--stdin", options.words.from_input,
+                      "Read words from standard input, one a line");
     suggest->footer(
         "Prints WORD, SUGGESTION, SCORE and * (on the best), separated by tabs.\n\nExamples:\n"
         "  wordhawk-cli suggest recieve beleive\n"
@@ -85,71 +108,90 @@ void AddWordCommands(CLI::App& app, Options& options) {
         "  wordhawk-cli check --list draft.txt | wordhawk-cli suggest --stdin");
 
     CLI::App* const explain =
-        app.add_subcommand("explain", "Tell how a candidate measures up to a word, and what drops it");
-    explain->add_option("WORD", options.explain.word, "Word as typed")->required();
-    explain->add_option("CANDIDATE", options.explain.candidate, "Dictionary word")->required();
+        AddCommand(app, "explain", "Tell how a candidate measures up to a word, and what drops it");
+    explain->add_option("WORD", options.explain.word, "Word as typed")->type_name("")->required();
+    explain->add_option("CANDIDATE", options.explain.candidate, "Dictionary word")
+        ->type_name("")
+        ->required();
     explain->add_flag("--json", options.explain.json, "Print one JSON object");
     explain->footer(
         "Examples:\n  wordhawk-cli explain recieve receive\n"
         "  wordhawk-cli --set SortBy=2 explain --json teh the");
 
-    CLI::App* const key = app.add_subcommand("key", "Print dictionary file and phonetic key of words");
-    key->add_option("WORD", options.words.words, "Words");
-    key->add_flag("--stdin", options.words.from_input, "Read words from standard input, one a line");
+    CLI::App* const key = AddCommand(app, "key", "Print dictionary file and phonetic key of words");
+    key->add_option("WORD", options.words.words, "Words")->type_name("");
+    key->add_flag("--stdin", options.words.from_input,
+                  "Read words from standard input, one a line");
     key->footer(
         "Prints WORD, FILE and KEY, separated by tabs.\n\nExamples:\n"
         "  wordhawk-cli key hello\n  wordhawk-cli key --stdin < words.txt");
 }
 
 void AddDictionaryCommands(CLI::App& app, Options& options) {
-    CLI::App* const add = app.add_subcommand("add", "Add words to a dictionary");
-    add->add_option("WORD", options.add.words, "Words")->required();
+    CLI::App* const add = AddCommand(app, "add", "Add words to a dictionary");
+    add->add_option("WORD", options.add.words, "Words")->type_name("")->required();
     CLI::Option* const to_main =
         add->add_flag("--main", options.add.to_main, "Into the main dictionary of the language");
-    add->add_option("--custom", options.add.custom, "Into this custom dictionary (made when missing)")
+    add->add_option("--custom", options.add.custom,
+                    "Into this custom dictionary (made when missing)")
         ->type_name("NAME")
         ->excludes(to_main);
     add->footer(
         "Without --main or --custom the words go into the active custom dictionary.\n\nExamples:\n"
-        "  wordhawk-cli add Wordhawk spellchecker\n  wordhawk-cli add --custom names.dic Ostrowska");
+        "  wordhawk-cli add Wordhawk spellchecker\n  wordhawk-cli add --custom names.dic "
+        "Ostrowska");
 
-    CLI::App* const remove = app.add_subcommand("remove", "Remove words from the dictionaries");
-    remove->add_option("WORD", options.words.words, "Words")->required();
+    CLI::App* const remove = AddCommand(app, "remove", "Remove words from the dictionaries");
+    remove->add_option("WORD", options.words.words, "Words")->type_name("")->required();
     remove->footer(
-        "Each word is removed from the first dictionary that holds it, the main one before custom ones.\n"
+        "Each word is removed from the first dictionary that holds it, the main one before custom "
+        "ones.\n"
         "Prints WORD and the changed file; exits with 1 when a word was in none.\n\nExamples:\n"
         "  wordhawk-cli remove spellchecker");
 
-    CLI::App* const import = app.add_subcommand("import", "Make a custom dictionary of a file's new words");
-    import->add_option("FILE", options.import_file, "Word list, one word a line")->required();
+    CLI::App* const import =
+        AddCommand(app, "import", "Make a custom dictionary of a file's new words");
+    import->add_option("FILE", options.import_file, "Word list, one word a line")
+        ->type_name("")
+        ->required();
     import->footer(
-        "Prints the number of words added. Flags 249 and 250 say whether words of the main and of the\n"
+        "Prints the number of words added. Flags 249 and 250 say whether words of the main and of "
+        "the\n"
         "custom dictionaries are left out.\n\nExamples:\n"
         "  wordhawk-cli import medical.dic\n  wordhawk-cli --flag 250=0 import names.dic");
 
-    CLI::App* const list = app.add_subcommand("dictionaries", "List main and custom dictionaries");
-    list->add_option("--activate", options.activate, "First make this custom dictionary one that is searched")
+    CLI::App* const list = AddCommand(app, "dictionaries", "List main and custom dictionaries");
+    list->add_option("--activate", options.activate,
+                     "First make this custom dictionary one that is searched")
         ->type_name("NAME");
     list->footer(
-        "Prints main or custom, NAME, number of words and * (in use), separated by tabs.\n\nExamples:\n"
+        "Prints main or custom, NAME, number of words and * (in use), separated by "
+        "tabs.\n\nExamples:\n"
         "  wordhawk-cli dictionaries\n  wordhawk-cli dictionaries --activate MEDICAL.DIC");
 
     CLI::App* const build =
-        app.add_subcommand("build-dictionary", "Write main dictionary files from plain word lists");
-    build->add_option("WORDLIST", options.build.word_lists, "Lists, one word a line, UTF-8 or ANSI")->required();
+        AddCommand(app, "build-dictionary", "Write main dictionary files from plain word lists");
+    build->add_option("WORDLIST", options.build.word_lists, "Lists, one word a line, UTF-8 or ANSI")
+        ->type_name("")
+        ->required();
     build->add_option("--output", options.build.output, "Folder that gets the files")
         ->required()
         ->type_name("DIR");
-    build->add_option("--code-page", options.build.code_page, "Windows code page of the language (default 1252)")
+    build
+        ->add_option("--code-page", options.build.code_page,
+                     "Windows code page of the language (default 1252)")
         ->type_name("N")
-        ->check(CLI::IsMember({874, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258}));
+        ->check(CLI::IsMember({874, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258})
+                    .description(""));
     build->add_flag("--pieces", options.build.pieces,
                     "Also write the parts that apostrophes and delimiters cut words into");
-    OneValueEachTime(*build, "--exclude", options.build.excluded, "Leave out the words of this list")
+    OneValueEachTime(*build, "--exclude", options.build.excluded,
+                     "Leave out the words of this list")
         ->type_name("FILE");
     build->footer(
         "Examples:\n"
-        "  wordhawk-cli build-dictionary --output Dictionarys/1033 /usr/share/dict/american-english\n"
+        "  wordhawk-cli build-dictionary --output Dictionarys/1033 "
+        "/usr/share/dict/american-english\n"
         "  wordhawk-cli build-dictionary --output 1045 --code-page 1250 polish.txt");
 }
 
@@ -164,14 +206,17 @@ std::optional<int> WholeNumber(std::string_view text) {
 std::string CutOverrides(const RawOverrides& raw, GlobalOptions& global) {
     for (const std::string& text : raw.settings) {
         const std::size_t equals = text.find('=');
-        if (equals == std::string::npos || equals == 0) return "--set: " + text + " is not KEY=VALUE";
+        if (equals == std::string::npos || equals == 0)
+            return "--set: " + text + " is not KEY=VALUE";
         global.settings.emplace_back(text.substr(0, equals), text.substr(equals + 1));
     }
     for (const std::string& text : raw.flags) {
         const std::size_t equals = std::min(text.find('='), text.size());
         const auto number = WholeNumber(std::string_view(text).substr(0, equals));
-        const std::string_view value = std::string_view(text).substr(std::min(equals + 1, text.size()));
-        if (!number || (value != "0" && value != "1")) return "--flag: " + text + " is not N=0 or N=1";
+        const std::string_view value =
+            std::string_view(text).substr(std::min(equals + 1, text.size()));
+        if (!number || (value != "0" && value != "1"))
+            return "--flag: " + text + " is not N=0 or N=1";
         global.flags.emplace_back(*number, value == "1");
     }
     return {};
@@ -179,11 +224,16 @@ std::string CutOverrides(const RawOverrides& raw, GlobalOptions& global) {
 
 std::optional<Command> CommandNamed(std::string_view name) {
     constexpr std::pair<std::string_view, Command> kCommands[] = {
-        {"check", Command::Check},           {"suggest", Command::Suggest},
-        {"explain", Command::Explain},       {"key", Command::Key},
-        {"add", Command::Add},               {"remove", Command::Remove},
-        {"import", Command::Import},         {"dictionaries", Command::Dictionaries},
-        {"build-dictionary", Command::BuildDictionary}, {"pipe", Command::Pipe}};
+        {"check", Command::Check},
+        {"suggest", Command::Suggest},
+        {"explain", Command::Explain},
+        {"key", Command::Key},
+        {"add", Command::Add},
+        {"remove", Command::Remove},
+        {"import", Command::Import},
+        {"dictionaries", Command::Dictionaries},
+        {"build-dictionary", Command::BuildDictionary},
+        {"pipe", Command::Pipe}};
     for (const auto& [known, command] : kCommands) {
         if (known == name) return command;
     }
@@ -199,31 +249,37 @@ ParsedCommandLine Wrong(const std::string& message) {
 ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     Options options;
     RawOverrides raw;
-    CLI::App app("Wordhawk finds words that its dictionaries do not know, and suggests better ones.",
-                 "wordhawk-cli");
+    CLI::App app(
+        "Wordhawk finds words that its dictionaries do not know, and suggests better ones.",
+        "wordhawk-cli");
     app.require_subcommand(1);
     app.fallthrough();
     app.get_formatter()->column_width(28);
-    app.get_formatter()->label("Subcommands", "Commands");
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     AddGlobalOptions(app, options.global, raw);
     AddCheck(app, options.check);
     AddWordCommands(app, options);
     AddDictionaryCommands(app, options);
     CLI::App* const pipe =
-        app.add_subcommand("pipe", "Speak the line protocol of ispell -a, for editors (also: -a)");
+        AddCommand(app, "pipe", "Speak the line protocol of ispell -a, for editors (also: -a)");
     pipe->allow_extras();
-    pipe->footer("Examples:\n  echo '^Ths is a tset' | wordhawk-cli pipe\n"
-                 "  emacs --eval '(setq ispell-program-name \"wordhawk-cli\")'");
+    pipe->footer(
+        "Examples:\n  echo '^Ths is a tset' | wordhawk-cli pipe\n"
+        "  emacs --eval '(setq ispell-program-name \"wordhawk-cli\")'");
     app.footer(
-        "Each command has its own --help. Exit code: 0 fine, 1 unknown words found, 2 error.\n\nExamples:\n"
+        "Each command has its own --help. Exit code: 0 fine, 1 unknown words found, 2 "
+        "error.\n\nExamples:\n"
         "  wordhawk-cli check letter.txt\n  wordhawk-cli suggest recieve\n"
         "  wordhawk-cli add Wordhawk\n  wordhawk-cli --locale 1031 check brief.rtf");
 
     try {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() != 0) return Wrong(error.what());
+        if (error.get_exit_code() != 0) {
+            const std::vector<std::string> left = app.remaining();
+            if (!app.get_subcommands().empty()) return Wrong(error.what());
+            return Wrong(left.empty() ? error.what() : "there is no command or option " + left.front());
+        }
         std::ostringstream text;
         app.exit(error, text, text);
         return {std::nullopt, text.str(), kExitFine};

@@ -15,14 +15,17 @@ Output& Output::operator<<(std::wstring_view text) {
 
 void Output::Flush() {
     if (stream_ == nullptr) return;
-    if (!buffer_.empty() && std::fwrite(buffer_.data(), 1, buffer_.size(), stream_) != buffer_.size()) {
+    if (!buffer_.empty() &&
+        std::fwrite(buffer_.data(), 1, buffer_.size(), stream_) != buffer_.size()) {
         failed_ = true;
     }
     buffer_.clear();
     if (std::fflush(stream_) != 0) failed_ = true;
 }
 
-std::string MessageLine(std::string_view text) { return "wordhawk-cli: " + std::string(text) + "\n"; }
+std::string MessageLine(std::string_view text) {
+    return "wordhawk-cli: " + std::string(text) + "\n";
+}
 
 std::string MessageLine(std::string_view subject, std::string_view text) {
     return "wordhawk-cli: " + std::string(subject) + ": " + std::string(text) + "\n";

@@ -12,8 +12,8 @@ namespace wordhawk {
 
 /// Exit codes of every command.
 inline constexpr int kExitFine = 0;
-inline constexpr int kExitFound = 1;    ///< unknown words, or a word that was not there
-inline constexpr int kExitFailed = 2;   ///< usage, input, dictionary or output failure
+inline constexpr int kExitFound = 1;   ///< unknown words, or a word that was not there
+inline constexpr int kExitFailed = 2;  ///< usage, input, dictionary or output failure
 
 /// Text on its way to a stream, or collected when there is none.
 class Output {

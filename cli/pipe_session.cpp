@@ -34,7 +34,8 @@ PipeSession::PipeSession(Program& program, Output& out)
 void PipeSession::HandleLine(std::string_view line) {
     if (!IsUtf8(line)) {
         ansi_client_ = true;
-    } else if (std::any_of(line.begin(), line.end(), [](char c) { return static_cast<signed char>(c) < 0; })) {
+    } else if (std::any_of(line.begin(), line.end(),
+                           [](char c) { return static_cast<signed char>(c) < 0; })) {
         ansi_client_ = false;
     }
     const std::wstring text = TextOfBytes(line, program_.dictionaries.Page());
@@ -57,14 +58,24 @@ bool PipeSession::HandleCommand(std::wstring_view line) {
         case L'@':
             if (!word.empty()) accepted_.insert(Lower(word));
             return true;
-        case L'#': SavePersonalWords(); return true;
-        case L'!': detail_ = Detail::Terse; return true;
-        case L'%': detail_ = Detail::Full; return true;
-        case L'`': detail_ = Detail::WithCorrectWords; return true;
+        case L'#':
+            SavePersonalWords();
+            return true;
+        case L'!':
+            detail_ = Detail::Terse;
+            return true;
+        case L'%':
+            detail_ = Detail::Full;
+            return true;
+        case L'`':
+            detail_ = Detail::WithCorrectWords;
+            return true;
         case L'+':
         case L'-':
-        case L'~': return true;  // text filters and character sets: there is only one of each
-        default: return false;
+        case L'~':
+            return true;  // text filters and character sets: there is only one of each
+        default:
+            return false;
     }
 }
 
@@ -73,7 +84,8 @@ void PipeSession::SavePersonalWords() {
     DictionaryStore& store = program_.dictionaries;
     Path path;
     Progress no_progress;
-    const auto added = AddWordsToDictionary(store, personal_, AddTarget::ActiveCustom, path, no_progress);
+    const auto added =
+        AddWordsToDictionary(store, personal_, AddTarget::ActiveCustom, path, no_progress);
     if (!added) {
         ShowMessageLine(MessageLine(added.error()));  // and keep them: the next "#" tries again
         return;
@@ -83,12 +95,12 @@ void PipeSession::SavePersonalWords() {
 }
 
 TextChecker& PipeSession::Checker() {
-    // Its verdicts are for the life of one set of dictionaries; and one that has met very many words
-    // is dropped, so that a conversation without end does not grow without end.
+    // Its verdicts are for the life of one set of dictionaries; and one that has met very many
+    // words is dropped, so that a conversation without end does not grow without end.
     constexpr std::size_t kMostWords = 200'000;
     if (!checker_ || checker_->Words().size() > kMostWords) {
-        checker_ = std::make_unique<TextChecker>(program_.dictionaries,
-                                                 SplitRules::From(program_.state, program_.settings));
+        checker_ = std::make_unique<TextChecker>(
+            program_.dictionaries, SplitRules::From(program_.state, program_.settings));
         fed_ = 0;
     }
     return *checker_;
@@ -98,7 +110,7 @@ void PipeSession::CheckLine(std::wstring_view line) {
     TextChecker& checker = Checker();
     const std::size_t skipped = line.starts_with(L'^') ? 1 : 0;
     const std::wstring_view text = line.substr(skipped);
-    std::size_t walked = 0;       // units of `text`
+    std::size_t walked = 0;            // units of `text`
     std::size_t characters = skipped;  // in `walked` and before
     const std::uint64_t base = fed_;
     fed_ += text.size();
@@ -119,7 +131,8 @@ void PipeSession::CheckLine(std::wstring_view line) {
 }
 
 void PipeSession::ReportUnknown(std::wstring_view word, std::size_t offset) {
-    const Suggestions found = FindSuggestions(program_.dictionaries, Lower(word), suggestion_rules_);
+    const Suggestions found =
+        FindSuggestions(program_.dictionaries, Lower(word), suggestion_rules_);
     out_ << (found.list.empty() ? "# " : "& ");
     Write(word);
     if (found.list.empty()) {

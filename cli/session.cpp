@@ -29,9 +29,12 @@ Answer StderrUi::ShowMessage(std::wstring_view text, std::wstring_view, MessageI
     std::erase(line, '\r');
     ShowMessageLine(MessageLine(line));
     switch (buttons) {
-        case MessageButtons::Ok: return Answer::Ok;
-        case MessageButtons::YesNo: return Answer::Yes;
-        case MessageButtons::YesNoDefaultNo: return Answer::No;
+        case MessageButtons::Ok:
+            return Answer::Ok;
+        case MessageButtons::YesNo:
+            return Answer::Yes;
+        case MessageButtons::YesNoDefaultNo:
+            return Answer::No;
     }
     return Answer::Ok;
 }
@@ -42,7 +45,8 @@ std::optional<std::string> WrongOverride(const GlobalOptions& options) {
     for (const auto& [key, value] : options.settings) {
         if (modRegs::FindRow(FromUtf8(key)) != nullptr) continue;
         std::string known;
-        for (const auto& row : modRegs::Rows()) known += (known.empty() ? "" : ", ") + ToUtf8(row.key);
+        for (const auto& row : modRegs::Rows())
+            known += (known.empty() ? "" : ", ") + ToUtf8(row.key);
         return "--set: no setting is called " + key + " (there are " + known + ")";
     }
     for (const auto& [number, value] : options.flags) {
@@ -53,18 +57,23 @@ std::optional<std::string> WrongOverride(const GlobalOptions& options) {
 }
 
 bool HasDictionaries(Program& program) {
+    // Nearly every language has words that begin so, which saves reading the folder at each start.
+    if (IsFile(program.state.LanguageDictFolder / "in_.dic")) return true;
     std::error_code error;
     std::filesystem::directory_iterator entry(program.state.LanguageDictFolder, error);
-    for (const std::filesystem::directory_iterator end; !error && entry != end; entry.increment(error)) {
+    for (const std::filesystem::directory_iterator end; !error && entry != end;
+         entry.increment(error)) {
         if (EqualIgnoringCase(TextFromPath(entry->path().extension()), L".dic")) return true;
     }
-    return std::any_of(program.settings.CustomDictionaries.begin(), program.settings.CustomDictionaries.end(),
-                       [&](const std::wstring& name) { return IsFile(program.dictionaries.CustomPath(name)); });
+    return std::any_of(
+        program.settings.CustomDictionaries.begin(), program.settings.CustomDictionaries.end(),
+        [&](const std::wstring& name) { return IsFile(program.dictionaries.CustomPath(name)); });
 }
 
 std::string NoDictionariesLine(const Program& program) {
     return MessageLine(PathForMessage(program.state.LanguageDictFolder),
-                       "no dictionary is installed for language " + ToUtf8(program.state.LanguageId) +
+                       "no dictionary is installed for language " +
+                           ToUtf8(program.state.LanguageId) +
                            "; choose another with --locale, or make one with build-dictionary");
 }
 

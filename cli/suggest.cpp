@@ -11,15 +11,16 @@ int RunSuggest(const GlobalOptions& global, const WordOptions& options) {
     Program& program = session.program;
     const SuggestionRules rules = SuggestionRules::From(program.settings);
     Output out(stdout);
-    const auto read = ForEachWord(options, program.dictionaries.Page(), [&](std::wstring_view word) {
-        const Suggestions found = FindSuggestions(program.dictionaries, word, rules);
-        if (found.list.empty()) out << word << "\t\t\t\n";
-        for (std::size_t i = 0; i < found.list.size(); ++i) {
-            const Suggestion& suggestion = found.list[i];
-            out << word << '\t' << suggestion.word << '\t' << suggestion.score << '\t'
-                << (static_cast<int>(i) == found.best ? "*\n" : "\n");
-        }
-    });
+    const auto read =
+        ForEachWord(options, program.dictionaries.Page(), [&](std::wstring_view word) {
+            const Suggestions found = FindSuggestions(program.dictionaries, word, rules);
+            if (found.list.empty()) out << word << "\t\t\t\n";
+            for (std::size_t i = 0; i < found.list.size(); ++i) {
+                const Suggestion& suggestion = found.list[i];
+                out << word << '\t' << suggestion.word << '\t' << suggestion.score << '\t'
+                    << (static_cast<int>(i) == found.best ? "*\n" : "\n");
+            }
+        });
     out.Flush();
     if (!read) {
         ShowMessageLine(MessageLine(read.error()));

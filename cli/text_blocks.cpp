@@ -13,7 +13,8 @@ constexpr std::size_t kLookAheadBytes = std::size_t{16} << 20;
 constexpr std::size_t kLongestRun = std::size_t{4} << 20;
 
 bool IsAscii(std::string_view bytes) {
-    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char c) { return static_cast<signed char>(c) >= 0; });
 }
 
 }  // namespace
@@ -92,7 +93,8 @@ Result<void> TextBlocks::DecideFromPipe() {
 
 Result<void> TextBlocks::ReadRichText() {
     while (!source_.AtEnd()) {
-        if (auto read = source_.Read(std::max(kReadBytes, bytes_.size()), bytes_); !read) return read;
+        if (auto read = source_.Read(std::max(kReadBytes, bytes_.size()), bytes_); !read)
+            return read;
     }
     text_ = RtfToText(bytes_);
     bytes_ = {};
@@ -106,11 +108,14 @@ std::size_t TextBlocks::CompleteBytes() const {
     if (end == bytes_.size() && source_.AtEnd()) return end;
     const std::string_view part = std::string_view(bytes_).substr(bytes_at_, end - bytes_at_);
     switch (encoding_) {
-        case TextEncoding::Ansi: return end;
+        case TextEncoding::Ansi:
+            return end;
         case TextEncoding::Utf8:
-        case TextEncoding::Utf8WithMark: return bytes_at_ + CompleteUtf8Length(part);
+        case TextEncoding::Utf8WithMark:
+            return bytes_at_ + CompleteUtf8Length(part);
         case TextEncoding::Utf16LittleEndian:
-        case TextEncoding::Utf16BigEndian: return end - part.size() % 2;
+        case TextEncoding::Utf16BigEndian:
+            return end - part.size() % 2;
     }
     return end;
 }
@@ -126,11 +131,13 @@ Result<std::wstring_view> TextBlocks::Next() {
             if (auto read = ReadMore(kReadBytes); !read) return tl::unexpected(read.error());
         }
         if (!decided_) {
-            if (auto decision = DecideFromPipe(); !decision) return tl::unexpected(decision.error());
+            if (auto decision = DecideFromPipe(); !decision)
+                return tl::unexpected(decision.error());
         }
         const std::size_t from = text_.size();
         const std::size_t end = CompleteBytes();
-        AppendDecoded(std::string_view(bytes_).substr(bytes_at_, end - bytes_at_), encoding_, page_, text_);
+        AppendDecoded(std::string_view(bytes_).substr(bytes_at_, end - bytes_at_), encoding_, page_,
+                      text_);
         bytes_at_ = end;
         if (bytes_at_ == bytes_.size() && source_.AtEnd()) {
             text_at_ = text_.size();

@@ -42,9 +42,9 @@ class TextBlocks {
     TextEncoding encoding_ = TextEncoding::Utf8;
     bool started_ = false;
     bool decided_ = false;
-    std::string bytes_;       // read, not yet decoded from bytes_at_ on
+    std::string bytes_;  // read, not yet decoded from bytes_at_ on
     std::size_t bytes_at_ = 0;
-    std::wstring text_;       // decoded; what stands before text_at_ was handed out
+    std::wstring text_;  // decoded; what stands before text_at_ was handed out
     std::size_t text_at_ = 0;
     std::uint64_t bytes_read_ = 0;
 };

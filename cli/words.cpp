@@ -16,8 +16,8 @@ std::string Objection(std::wstring_view word, const AnsiCodePage& page) {
             return "a word with a comma or a control character cannot be added";
         }
         if (page.ToByteOrNone(LowerChar(c)) < 0) {
-            return "the dictionaries of this language, in code page " + std::to_string(page.Number()) +
-                   ", cannot hold the word";
+            return "the dictionaries of this language, in code page " +
+                   std::to_string(page.Number()) + ", cannot hold the word";
         }
     }
     return {};

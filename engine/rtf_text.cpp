@@ -17,18 +17,54 @@ constexpr std::size_t kLongestControlWord = 32;
 
 /// Destinations whose content is no text of the document. Those that writers mark with \* need no
 /// entry; these also come without the mark.
-constexpr std::array<std::string_view, 43> kTextless = {
-    "aftncn",      "aftnsep",       "aftnsepc",   "atnauthor", "atnid",    "author",    "bkmkend",
-    "bkmkstart",   "colorschememapping", "colortbl", "datastore", "do",    "falt",      "filetbl",
-    "fldinst",     "fontemb",       "fontfile",   "ftncn",     "ftnsep",   "ftnsepc",   "generator",
-    "info",        "latentstyles",  "leveltext",  "listoverridetable", "listtable", "listtext", "nonesttables", "nonshppict",
-    "objdata",     "operator",      "panose",     "pict",      "pntext",   "revtbl",    "rxe",
-    "shprslt",     "sp",            "stylesheet", "tc",        "themedata", "txe",      "xe"};
+constexpr std::array<std::string_view, 43> kTextless = {"aftncn",
+                                                        "aftnsep",
+                                                        "aftnsepc",
+                                                        "atnauthor",
+                                                        "atnid",
+                                                        "author",
+                                                        "bkmkend",
+                                                        "bkmkstart",
+                                                        "colorschememapping",
+                                                        "colortbl",
+                                                        "datastore",
+                                                        "do",
+                                                        "falt",
+                                                        "filetbl",
+                                                        "fldinst",
+                                                        "fontemb",
+                                                        "fontfile",
+                                                        "ftncn",
+                                                        "ftnsep",
+                                                        "ftnsepc",
+                                                        "generator",
+                                                        "info",
+                                                        "latentstyles",
+                                                        "leveltext",
+                                                        "listoverridetable",
+                                                        "listtable",
+                                                        "listtext",
+                                                        "nonesttables",
+                                                        "nonshppict",
+                                                        "objdata",
+                                                        "operator",
+                                                        "panose",
+                                                        "pict",
+                                                        "pntext",
+                                                        "revtbl",
+                                                        "rxe",
+                                                        "shprslt",
+                                                        "sp",
+                                                        "stylesheet",
+                                                        "tc",
+                                                        "themedata",
+                                                        "txe",
+                                                        "xe"};
 
 /// Destinations with text of their own, apart from the paragraph that they stand in.
-constexpr std::array<std::string_view, 10> kSeparate = {
-    "footer", "footerf", "footerl", "footerr", "footnote",
-    "header", "headerf", "headerl", "headerr", "shptxt"};
+constexpr std::array<std::string_view, 10> kSeparate = {"footer",   "footerf", "footerl", "footerr",
+                                                        "footnote", "header",  "headerf", "headerl",
+                                                        "headerr",  "shptxt"};
 
 static_assert(std::is_sorted(kTextless.begin(), kTextless.end()));
 static_assert(std::is_sorted(kSeparate.begin(), kSeparate.end()));
@@ -39,27 +75,38 @@ struct Symbol {
 };
 
 constexpr std::array<Symbol, 22> kSymbols = {{
-    {"bullet", 0x2022},   {"cell", L'\t'},      {"column", L'\n'},    {"emdash", 0x2014},
-    {"emspace", 0x2003},  {"endash", 0x2013},   {"enspace", 0x2002},  {"ldblquote", 0x201C},
-    {"line", L'\n'},      {"lquote", 0x2018},   {"ltrmark", 0x200E},  {"nestcell", L'\t'},
-    {"nestrow", L'\n'},   {"page", L'\n'},      {"par", L'\n'},       {"qmspace", 0x2005},
-    {"rdblquote", 0x201D}, {"row", L'\n'},      {"rquote", 0x2019},   {"rtlmark", 0x200F},
-    {"sect", L'\n'},      {"tab", L'\t'},
+    {"bullet", 0x2022},    {"cell", L'\t'},    {"column", L'\n'},   {"emdash", 0x2014},
+    {"emspace", 0x2003},   {"endash", 0x2013}, {"enspace", 0x2002}, {"ldblquote", 0x201C},
+    {"line", L'\n'},       {"lquote", 0x2018}, {"ltrmark", 0x200E}, {"nestcell", L'\t'},
+    {"nestrow", L'\n'},    {"page", L'\n'},    {"par", L'\n'},      {"qmspace", 0x2005},
+    {"rdblquote", 0x201D}, {"row", L'\n'},     {"rquote", 0x2019},  {"rtlmark", 0x200F},
+    {"sect", L'\n'},       {"tab", L'\t'},
 }};
 
 int PageOfCharset(int charset, int document_page) {
     switch (charset) {
-        case 0: return 1252;
-        case 161: return 1253;
-        case 162: return 1254;
-        case 163: return 1258;
-        case 177: return 1255;
-        case 178: return 1256;
-        case 186: return 1257;
-        case 204: return 1251;
-        case 222: return 874;
-        case 238: return 1250;
-        default: return document_page;
+        case 0:
+            return 1252;
+        case 161:
+            return 1253;
+        case 162:
+            return 1254;
+        case 163:
+            return 1258;
+        case 177:
+            return 1255;
+        case 178:
+            return 1256;
+        case 186:
+            return 1257;
+        case 204:
+            return 1251;
+        case 222:
+            return 874;
+        case 238:
+            return 1250;
+        default:
+            return document_page;
     }
 }
 
@@ -70,8 +117,12 @@ int HexDigit(char c) {
     return -1;
 }
 
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 template <std::size_t N>
 bool Holds(const std::array<std::string_view, N>& sorted, std::string_view word) {
@@ -90,25 +141,34 @@ class Reader {
   private:
     /// What a group inherits from the one around it and forgets at its end.
     struct Group {
-        bool skip = false;       // holds no text of the document
+        bool skip = false;  // holds no text of the document
         bool hidden = false;
         bool deleted = false;
-        bool fonts = false;      // the font table
+        bool fonts = false;        // the font table
         bool either_form = false;  // \upr: an ANSI form, then the same in Unicode
-        bool separate = false;   // ends with a line break
+        bool separate = false;     // ends with a line break
         const AnsiCodePage* page = &AnsiCodePage::Get(1252);
-        int skip_count = 1;      // of \u
+        int skip_count = 1;  // of \u
     };
 
     void Step() {
         const char c = rtf_[at_++];
         switch (c) {
-            case '{': OpenGroup(); break;
-            case '}': CloseGroup(); break;
-            case '\\': Control(); break;
+            case '{':
+                OpenGroup();
+                break;
+            case '}':
+                CloseGroup();
+                break;
+            case '\\':
+                Control();
+                break;
             case '\r':
-            case '\n': break;
-            default: Byte(static_cast<unsigned char>(c)); break;
+            case '\n':
+                break;
+            default:
+                Byte(static_cast<unsigned char>(c));
+                break;
         }
     }
 
@@ -158,13 +218,24 @@ class Reader {
         switch (symbol) {
             case '\\':
             case '{':
-            case '}': Append(symbol); break;
-            case '~': Append(0x00A0); break;
-            case '_': Append(L'-'); break;  // a hyphen that holds its line: splits words like any
-            case '\t': Append(L'\t'); break;
+            case '}':
+                Append(symbol);
+                break;
+            case '~':
+                Append(0x00A0);
+                break;
+            case '_':
+                Append(L'-');
+                break;  // a hyphen that holds its line: splits words like any
+            case '\t':
+                Append(L'\t');
+                break;
             case '\r':
-            case '\n': Append(L'\n'); break;
-            default: break;  // "\-" among them: a place where a word may be cut, no character of it
+            case '\n':
+                Append(L'\n');
+                break;
+            default:
+                break;  // "\-" among them: a place where a word may be cut, no character of it
         }
     }
 
@@ -301,8 +372,7 @@ class Reader {
     void Byte(unsigned char byte) {
         starred_ = false;
         if (SkipOne() || group_.skip || group_.hidden || group_.deleted) return;
-        text_.push_back(byte < 0x80 ? static_cast<wchar_t>(byte)
-                                    : group_.page->ToUnicode(byte));
+        text_.push_back(byte < 0x80 ? static_cast<wchar_t>(byte) : group_.page->ToUnicode(byte));
     }
 
     void Append(wchar_t character) {
@@ -326,8 +396,12 @@ class Reader {
 
 }  // namespace
 
-bool LooksLikeRtf(std::string_view bytes) { return bytes.starts_with("{\\rtf"); }
+bool LooksLikeRtf(std::string_view bytes) {
+    return bytes.starts_with("{\\rtf");
+}
 
-std::wstring RtfToText(std::string_view rtf) { return Reader(rtf).Read(); }
+std::wstring RtfToText(std::string_view rtf) {
+    return Reader(rtf).Read();
+}
 
 }  // namespace wordhawk

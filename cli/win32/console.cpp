@@ -27,8 +27,8 @@ std::ptrdiff_t ReadConsoleInput(char* buffer, std::size_t size) {
     if (waiting.empty()) {
         std::array<wchar_t, 2048> typed;
         DWORD got = 0;
-        if (!ReadConsoleW(HandleOf(Stream::Input), typed.data(), static_cast<DWORD>(typed.size()), &got,
-                          nullptr)) {
+        if (!ReadConsoleW(HandleOf(Stream::Input), typed.data(), static_cast<DWORD>(typed.size()),
+                          &got, nullptr)) {
             return -1;
         }
         if (got == 0 || typed[0] == 26) return 0;  // Ctrl+Z
@@ -53,7 +53,9 @@ std::vector<std::string> CommandLineArguments(int, char**) {
     return arguments;
 }
 
-Path PathFromArgument(const std::string& argument) { return PathFromText(FromUtf8(argument)); }
+Path PathFromArgument(const std::string& argument) {
+    return PathFromText(FromUtf8(argument));
+}
 
 std::FILE* OpenForReading(const Path& path) {
     std::FILE* const file = _wfopen(path.c_str(), L"rb");
@@ -69,8 +71,8 @@ bool IsTerminal(Stream stream) {
 std::ptrdiff_t ReadStandardInput(char* buffer, std::size_t size) {
     if (IsTerminal(Stream::Input)) return ReadConsoleInput(buffer, size);
     DWORD got = 0;
-    if (ReadFile(HandleOf(Stream::Input), buffer, static_cast<DWORD>(std::min<std::size_t>(size, 1u << 30)),
-                 &got, nullptr)) {
+    if (ReadFile(HandleOf(Stream::Input), buffer,
+                 static_cast<DWORD>(std::min<std::size_t>(size, 1u << 30)), &got, nullptr)) {
         return static_cast<std::ptrdiff_t>(got);
     }
     return GetLastError() == ERROR_BROKEN_PIPE ? 0 : -1;
