@@ -56,9 +56,16 @@ class TextChecker {
 
   private:
     bool IsInMain(const ScannedWord& word) {
-        return store_
-            .MainFileOfBytes(static_cast<unsigned char>(word.bytes[0]), static_cast<unsigned char>(word.bytes[1]))
-            .ContainsHashed(word.bytes, word.hash, EntryForms::KeyedOnly);
+        const bool packs = word.packed != PackedWord{};
+        PackedWord& recent = recent_[(word.packed.low ^ word.packed.high) * 0x9E3779B97F4A7C15u >> (64 - kRecentBits)];
+        if (packs && recent == word.packed) return true;
+        const DictionaryFile& file = store_.MainFileOfBytes(static_cast<unsigned char>(word.bytes[0]),
+                                                            static_cast<unsigned char>(word.bytes[1]));
+        if (!file.ContainsHashed(word.bytes, DictionaryFile::HashBytes(word.bytes), EntryForms::KeyedOnly)) {
+            return false;
+        }
+        if (packs) recent = word.packed;
+        return true;
     }
     /// The word's place in the list (added when new), or -1 when a dictionary holds it.
     std::int64_t IndexOfUnknown(std::wstring_view text);
@@ -70,9 +77,14 @@ class TextChecker {
         }
     };
 
+    // A few thousand words make up nearly all of any text; these stay in the processor's cache.
+    static constexpr int kRecentBits = 12;
+
     DictionaryStore& store_;
     Scope scope_;
     WordScanner scanner_;
+    /// Words lately found in the main dictionary, each in the place that its bytes choose.
+    std::vector<PackedWord> recent_ = std::vector<PackedWord>(std::size_t{1} << kRecentBits);
     std::wstring lower_;
     std::vector<std::wstring> words_;
     /// Lower-cased words that needed more than the quick look: index in the list, or -1.

@@ -16,7 +16,7 @@ WordScanner::WordScanner(const SplitRules& rules, const AnsiCodePage& page) : ru
         const int byte = page.ToByteOrNone(lower);
         std::uint16_t entry = byte < 0 ? kUnusual : static_cast<std::uint16_t>(byte);
         const bool edge = c != L'\'' && modSubs::IsEdgeDelimiter(c);
-        if (edge || c == L',' || (c >= L'0' && c <= L'9')) entry |= kUnusual;
+        if (edge || byte == 0 || c == L',' || (c >= L'0' && c <= L'9')) entry |= kUnusual;
         if (UpperChar(lower) != lower) entry |= kCased;
         table_[unit] = entry;
     }

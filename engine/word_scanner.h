@@ -12,6 +12,19 @@
 
 namespace wordhawk {
 
+/// Up to 16 bytes, none of them NUL, as one number: equal numbers are equal words.
+struct PackedWord {
+    static constexpr std::size_t kLongest = 16;
+    std::uint64_t high = 0;
+    std::uint64_t low = 0;
+
+    void Append(unsigned char byte) {
+        high = (high << 8) | (low >> 56);
+        low = (low << 8) | byte;
+    }
+    bool operator==(const PackedWord&) const = default;
+};
+
 /// A word that is to be looked up. Views are valid during the callback only.
 struct ScannedWord {
     /// As it stands in the text, cleaned, in its own case.
@@ -21,8 +34,8 @@ struct ScannedWord {
     /// Its lower-cased bytes when it consists of letters of the code page and inner apostrophes,
     /// as nearly every word does; else empty.
     std::string_view bytes;
-    /// DictionaryFile::HashBytes of `bytes`.
-    std::uint32_t hash;
+    /// The same bytes as one number, for words of at most 16 of them; else 0.
+    PackedWord packed;
 };
 
 /// Cuts a text that comes in blocks into the words that a check looks up: in one pass what
@@ -51,7 +64,7 @@ class WordScanner {
   private:
     // What a unit means to the scanner; the low byte of a table entry is its lower-cased ANSI byte.
     static constexpr std::uint16_t kSeparator = 0x100;
-    static constexpr std::uint16_t kUnusual = 0x200;  // digit, edge delimiter, comma, not in the page
+    static constexpr std::uint16_t kUnusual = 0x200;  // digit, edge delimiter, comma, NUL, not in the page
     static constexpr std::uint16_t kCased = 0x400;
     static constexpr std::size_t kLongestUsual = 63;
 

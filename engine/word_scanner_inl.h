@@ -1,6 +1,5 @@
 #pragma once
 
-#include "dict/dictionary_file.h"
 #include "engine/modSubs.h"
 #include "engine/word_scanner.h"
 
@@ -17,13 +16,13 @@ void WordScanner::ScanPlain(std::wstring_view block, Sink&& sink) {
         if (i == size) return;
         const std::size_t start = i;
         unsigned seen = 0;
-        std::uint32_t hash = DictionaryFile::kHashSeed;
+        PackedWord packed;
         for (; i < size; ++i) {
             const unsigned entry = table_[static_cast<std::uint16_t>(text[i])];
             if ((entry & kSeparator) != 0) break;
             seen |= entry;
             bytes[(i - start) & kLongestUsual] = static_cast<char>(entry);
-            hash = DictionaryFile::AddToHash(hash, static_cast<unsigned char>(entry));
+            packed.Append(static_cast<unsigned char>(entry));
         }
         const std::size_t length = i - start;
         if (length < 2) continue;
@@ -31,8 +30,8 @@ void WordScanner::ScanPlain(std::wstring_view block, Sink&& sink) {
         const bool usual = (seen & (kUnusual | kCased)) == kCased && length <= kLongestUsual &&
                            token.front() != L'\'' && token.back() != L'\'';
         if (usual) {
-            sink(ScannedWord{token, consumed_ + start, std::string_view(bytes.data(), length),
-                             DictionaryFile::FinishHash(hash)});
+            if (length > PackedWord::kLongest) packed = {};
+            sink(ScannedWord{token, consumed_ + start, std::string_view(bytes.data(), length), packed});
         } else {
             ScanUnusual(token, consumed_ + start, sink);
         }
@@ -49,7 +48,7 @@ void WordScanner::ScanUnusual(std::wstring_view token, std::uint64_t offset, Sin
         const std::size_t comma = std::min(word.find(L',', from), word.size());
         if (comma > from) {
             const auto begin = static_cast<std::size_t>(word.data() - lower_.data()) + from;
-            sink(ScannedWord{token.substr(begin, comma - from), offset + begin, {}, 0});
+            sink(ScannedWord{token.substr(begin, comma - from), offset + begin, {}, {}});
         }
         from = comma + 1;
     }

@@ -100,7 +100,9 @@ std::vector<Found> ScanInBlocks(const std::wstring& text, const SplitRules& rule
     const auto sink = [&](const ScannedWord& word) {
         if (!word.bytes.empty()) {
             EXPECT_EQ(Latin().Decode(word.bytes), Lower(word.text));
-            EXPECT_EQ(word.hash, DictionaryFile::HashBytes(word.bytes));
+            PackedWord packed;
+            for (const char byte : word.bytes) packed.Append(static_cast<unsigned char>(byte));
+            EXPECT_EQ(word.packed, word.bytes.size() <= PackedWord::kLongest ? packed : PackedWord{});
         }
         found.push_back({Lower(word.text), word.offset});
     };
