@@ -35,15 +35,16 @@ Path TemporaryBeside(const Path& target) {
                                    std::to_string(++counter) + ".tmp");
 }
 
-/// Writes everything and brings it to the disk; 0 or the errno of the first failure.
-int WriteAll(FileDescriptor& file, std::string_view bytes) {
+/// Writes everything and, if wanted, brings it to the disk; 0 or the errno of the first failure.
+int WriteAll(FileDescriptor& file, std::string_view bytes, Durability durability) {
     while (!bytes.empty()) {
         const ssize_t written = write(file.Get(), bytes.data(), bytes.size());
         if (written < 0 && errno != EINTR) return errno;
         if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
     }
     // Some file systems (and pipes) cannot be flushed, which is no failure of the write.
-    if (fsync(file.Get()) != 0 && errno != EINVAL && errno != ENOSYS) return errno;
+    const bool flush = durability == Durability::Flushed;
+    if (flush && fsync(file.Get()) != 0 && errno != EINVAL && errno != ENOSYS) return errno;
     return file.Close() ? 0 : errno;
 }
 
@@ -55,7 +56,8 @@ void FlushFolder(const Path& folder) {
 
 }  // namespace
 
-Result<void> ReplaceFileContents(const Path& path, std::string_view bytes) {
+Result<void> ReplaceFileContents(const Path& path, std::string_view bytes,
+                                 Durability durability) {
     const Result<Path> target = FollowLinks(path);
     if (!target) return tl::unexpected(target.error());
 
@@ -80,13 +82,13 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes) {
         [[maybe_unused]] const int owner = fchown(file.Get(), old.st_uid, old.st_gid);
         [[maybe_unused]] const int mode = fchmod(file.Get(), old.st_mode & 07777);
     }
-    int failure = WriteAll(file, bytes);
+    int failure = WriteAll(file, bytes, durability);
     if (failure == 0 && std::rename(temporary.c_str(), target->c_str()) != 0) failure = errno;
     if (failure != 0) {
         unlink(temporary.c_str());
         return tl::unexpected(ErrorFromErrno(failure, path));
     }
-    FlushFolder(target->parent_path());
+    if (durability == Durability::Flushed) FlushFolder(target->parent_path());
     return {};
 }
 

@@ -33,8 +33,8 @@ Path TemporaryBeside(const Path& target) {
                                    std::to_wstring(++counter) + L".tmp");
 }
 
-/// Writes everything and brings it to the disk; ERROR_SUCCESS or the first failure.
-DWORD WriteAll(const FileHandle& file, std::string_view bytes) {
+/// Writes everything and, if wanted, brings it to the disk; ERROR_SUCCESS or the first failure.
+DWORD WriteAll(const FileHandle& file, std::string_view bytes, Durability durability) {
     while (!bytes.empty()) {
         constexpr std::size_t kLargestWrite = 1u << 30;
         const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kLargestWrite));
@@ -42,31 +42,23 @@ DWORD WriteAll(const FileHandle& file, std::string_view bytes) {
         if (!WriteFile(file.Get(), bytes.data(), wanted, &written, nullptr)) return GetLastError();
         bytes.remove_prefix(written);
     }
+    if (durability == Durability::LeftToTheSystem) return ERROR_SUCCESS;
     return FlushFileBuffers(file.Get()) ? ERROR_SUCCESS : GetLastError();
 }
 
-/// Renames over the target. Virus scanners and indexers open a fresh file for moments, which makes
-/// the first tries fail.
+/// Renames over the target. Readers, virus scanners and indexers open a file for moments, which
+/// makes single tries fail.
 DWORD RenameOver(const std::wstring& temporary, const std::wstring& target) {
-    DWORD failure = ERROR_SUCCESS;
-    for (const DWORD pause : {5, 20, 50, 100, 200, 0}) {
-        if (MoveFileExW(temporary.c_str(), target.c_str(),
-                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-            return ERROR_SUCCESS;
-        }
-        failure = GetLastError();
-        if (failure != ERROR_SHARING_VIOLATION && failure != ERROR_ACCESS_DENIED &&
-            failure != ERROR_LOCK_VIOLATION) {
-            break;
-        }
-        Sleep(pause);
-    }
-    return failure;
+    return RetryWhileInUse([&] {
+        return MoveFileExW(temporary.c_str(), target.c_str(),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    });
 }
 
 }  // namespace
 
-Result<void> ReplaceFileContents(const Path& path, std::string_view bytes) {
+Result<void> ReplaceFileContents(const Path& path, std::string_view bytes,
+                                 Durability durability) {
     const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
     if (exists && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
@@ -83,7 +75,7 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes) {
     FileHandle file(CreateFileW(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                 FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file) return tl::unexpected(ErrorFromCode(GetLastError(), path));
-    DWORD failure = WriteAll(file, bytes);
+    DWORD failure = WriteAll(file, bytes, durability);
     file.Reset();
     if (failure == ERROR_SUCCESS && exists) {
         // Hidden and the like stay as they were; not worth failing for.
