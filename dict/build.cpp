@@ -3,9 +3,9 @@
 #include "dict/dictionary_file.h"
 #include "dict/lines.h"
 #include "dict/phonetic_key.h"
+#include "platform/replace_file.h"
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <span>
 #include <unordered_set>
@@ -83,15 +83,6 @@ class WordCollection {
     std::size_t skipped_ = 0;
 };
 
-/// Hundreds of files that can be built again are not worth a flush to the disk each.
-Result<void> WriteFile(const Path& path, std::string_view bytes) {
-    std::ofstream out(path, std::ios::binary);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out) return tl::unexpected(Error{L"The dictionary file cannot be written", path});
-    return {};
-}
-
 }  // namespace
 
 Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path& output,
@@ -113,7 +104,9 @@ Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path
     BuildReport report{words.size(), 0, words.Skipped()};
     for (const auto& [name, bytes] : words.ByFile()) {
         const std::string sorted = dictionary_edit::Sorted(bytes, *options.page);
-        const Result<void> written = WriteFile(output / PathFromText(name), sorted);
+        // Hundreds of files that can be built again are not worth a flush to the disk each.
+        const Result<void> written = ReplaceFileContents(output / PathFromText(name), sorted,
+                                                         Durability::LeftToTheSystem);
         if (!written) return tl::unexpected(written.error());
         ++report.files;
     }
