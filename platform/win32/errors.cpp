@@ -1,7 +1,5 @@
 #include "platform/win32/errors.h"
 
-#include "platform/win32/win.h"
-
 namespace wordhawk {
 namespace {
 
@@ -36,7 +34,7 @@ std::wstring Describe(DWORD code) {
 
 }  // namespace
 
-Error ErrorFromCode(unsigned long code, const std::filesystem::path& where) {
+Error ErrorFromCode(DWORD code, const std::filesystem::path& where) {
     return {Describe(code), where};
 }
 

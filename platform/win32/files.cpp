@@ -33,8 +33,12 @@ std::string PathForMessage(const Path& path) {
 
 Result<std::string> ReadWholeFile(const Path& path) {
     if (IsFolder(path)) return tl::unexpected(Error{L"this is a folder, not a file", path});
-    const FileHandle file = OpenToRead(path);
-    if (!file) return tl::unexpected(LastError(path));
+    FileHandle file;
+    const DWORD failure = RetryWhileInUse([&] {
+        file = OpenToRead(path);
+        return static_cast<bool>(file);
+    });
+    if (failure != ERROR_SUCCESS) return tl::unexpected(ErrorFromCode(failure, path));
     // The size is only a first guess: pipes have none and a file may grow meanwhile.
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file.Get(), &size)) size.QuadPart = 0;

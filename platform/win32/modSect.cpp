@@ -13,6 +13,12 @@ std::wstring ProfileName(const Path& file) {
     return file.has_parent_path() ? file.native() : L".\\" + file.native();
 }
 
+/// Asked beforehand: not every system's profile writer respects the mark.
+bool IsReadOnly(const std::wstring& profile) {
+    const DWORD attributes = GetFileAttributesW(profile.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 }  // namespace
 
 std::wstring ReadSetting(std::wstring_view section, std::wstring_view key,
@@ -32,8 +38,10 @@ bool WriteSetting(std::wstring_view section, std::wstring_view key, std::wstring
     const std::wstring section_name(section);
     const std::wstring key_name(key);
     const std::wstring text(OneLine(value));
-    return WritePrivateProfileStringW(section_name.c_str(), key_name.c_str(), text.c_str(),
-                                      ProfileName(file).c_str()) != 0;
+    const std::wstring profile = ProfileName(file);
+    return !IsReadOnly(profile) &&
+           WritePrivateProfileStringW(section_name.c_str(), key_name.c_str(), text.c_str(),
+                                      profile.c_str()) != 0;
 }
 
 bool WriteSettings(std::wstring_view section, std::span<const KeyAndValue> values,
