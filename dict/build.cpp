@@ -100,7 +100,7 @@ Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path
         if (!read) return tl::unexpected(read.error());
     }
 
-    if (!MakeFolder(output)) return tl::unexpected(Error{L"The output folder cannot be made", output});
+    if (!MakeFolder(output)) return tl::unexpected(Error{L"the output folder cannot be made", output});
     BuildReport report{words.size(), 0, words.Skipped()};
     for (const auto& [name, bytes] : words.ByFile()) {
         const std::string sorted = dictionary_edit::Sorted(bytes, *options.page);

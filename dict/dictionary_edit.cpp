@@ -141,7 +141,7 @@ class Addition {
 int SortLines(std::vector<std::wstring>& lines, std::ptrdiff_t first, std::ptrdiff_t last) {
     const auto size = static_cast<std::ptrdiff_t>(lines.size());
     if (first < 0 || last >= size || first > last + 1) return 1;
-    std::sort(lines.begin() + first, lines.begin() + last + 1);
+    std::sort(lines.begin() + first, lines.begin() + (last + 1));
     return 0;
 }
 

@@ -26,18 +26,18 @@ bool IsDeviceName(std::wstring_view name) {
 
 /// Why `name` cannot be a file name of its own; empty when it can.
 std::wstring_view Objection(std::wstring_view name) {
-    if (name.empty()) return L"A dictionary needs a name";
-    if (name.size() > kLongestName) return L"The name of the dictionary is too long";
+    if (name.empty()) return L"a dictionary needs a name";
+    if (name.size() > kLongestName) return L"the name of the dictionary is too long";
     if (std::any_of(name.begin(), name.end(), [](wchar_t c) { return c < 32 || (c >= 127 && c < 160); })) {
-        return L"The name of a dictionary cannot hold control characters";
+        return L"the name of a dictionary cannot hold control characters";
     }
     if (name.find_first_of(kForbidden) != std::wstring_view::npos) {
-        return L"The name of a dictionary cannot hold any of \\ / : * ? \" < > |";
+        return L"the name of a dictionary cannot hold any of \\ / : * ? \" < > |";
     }
     if (name.back() == L'.' || name.back() == L' ') {
-        return L"The name of a dictionary cannot end in a full stop or a blank";
+        return L"the name of a dictionary cannot end in a full stop or a blank";
     }
-    if (IsDeviceName(name)) return L"The name of a dictionary cannot be that of a device";
+    if (IsDeviceName(name)) return L"the name of a dictionary cannot be that of a device";
     return {};
 }
 

@@ -24,11 +24,11 @@ bool PageHolds(std::wstring_view word, const AnsiCodePage& page) {
 Result<std::string> CheckedEntryLine(std::wstring_view word, const AnsiCodePage& page) {
     std::wstring_view objection;
     if (word.empty()) {
-        objection = L"An empty word cannot stand in a dictionary";
+        objection = L"an empty word cannot stand in a dictionary";
     } else if (std::any_of(word.begin(), word.end(), BreaksEntry)) {
-        objection = L"A dictionary word cannot hold a comma, a line break or a control character";
+        objection = L"a dictionary word cannot hold a comma, a line break or a control character";
     } else if (!PageHolds(word, page)) {
-        objection = L"The dictionary's code page cannot hold this word";
+        objection = L"the dictionary's code page cannot hold this word";
     }
     if (!objection.empty()) return tl::unexpected(Error{std::wstring(objection), {}});
     return EntryLine(word, page);

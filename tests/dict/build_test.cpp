@@ -1,0 +1,86 @@
+#include "dict/build.h"
+
+#include "dict/dictionary_file.h"
+#include "tests/support/temp_dir.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace wordhawk {
+namespace {
+
+using test::ReadBytes;
+using test::TempDir;
+using test::WriteBytes;
+
+TEST(BuildDictionary, WritesSortedFilesFromListsOfBothEncodings) {
+    TempDir temp;
+    const Path utf8 = temp / L"utf8.txt";
+    const Path ansi = temp / L"ansi.txt";
+    WriteBytes(utf8, "\xEF\xBB\xBFHello\nhelp\r\n  hello  \n\n\xC3\x89t\xC3\xA9\n\xE2\x82\xAC\nhello's\na\n");
+    WriteBytes(ansi, "\xE9tat\r\n3d\r\nHELP\r\n");
+    const std::array lists = {utf8, ansi};
+    const Result<BuildReport> report = BuildDictionary(lists, temp / L"out" / "1036", {});
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->words, 8u);
+    EXPECT_EQ(report->files, 4u);
+    EXPECT_EQ(report->skipped, 0u);
+    const Path out = temp / L"out" / "1036";
+    EXPECT_EQ(ReadBytes(out / "he_.dic"), "hello's,72420\r\nhello,72400\r\nhelp,72410\r\n");
+    EXPECT_EQ(ReadBytes(out / PathFromText(L"\u00E9t_.dic")), "\xE9tat,20130\r\n\xE9t\xE9,20130\r\n");
+    EXPECT_EQ(ReadBytes(out / "aa_.dic"), "a,65000\r\n");
+    EXPECT_EQ(ReadBytes(out / "_noncase_.dic"), "3d,51300\r\n\x80,12800\r\n");
+}
+
+TEST(BuildDictionary, LeavesOutWhatIsExcludedOrCannotBeHeld) {
+    TempDir temp;
+    const Path list = temp / L"list.txt";
+    const Path excluded = temp / L"excluded.txt";
+    WriteBytes(list, "alpha\nbeta\ngamma\n\xD0\xB4\xD0\xB0\na,b\nalp\x01ha\n");
+    WriteBytes(excluded, "BETA\nunknown\n\xD0\xB4\xD0\xB0\n");
+    BuildOptions options;
+    options.excluded_lists = {excluded};
+    const Result<BuildReport> report = BuildDictionary({&list, 1}, temp / L"out", options);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->words, 2u);
+    EXPECT_EQ(report->skipped, 3u);
+    EXPECT_FALSE(std::filesystem::exists(temp / L"out" / "be_.dic"));
+
+    options.page = &AnsiCodePage::Get(1251);
+    options.excluded_lists.clear();
+    ASSERT_TRUE(BuildDictionary({&list, 1}, temp / L"cyrillic", options));
+    EXPECT_EQ(ReadBytes(temp / L"cyrillic" / PathFromText(L"\u0434\u0430_.dic")), "\xE4\xE0,19600\r\n");
+}
+
+TEST(BuildDictionary, WritesThePiecesOfAWordAsWell) {
+    TempDir temp;
+    const Path list = temp / L"list.txt";
+    WriteBytes(list, "isn't\nx-ray\no'er-all\n");
+    BuildOptions options;
+    options.piece_delimiters = L"'-";
+    const Result<BuildReport> report = BuildDictionary({&list, 1}, temp / L"out", options);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->words, 7u) << "isn't isn x-ray ray o'er-all er all; no single letters";
+    EXPECT_EQ(ReadBytes(temp / L"out" / "is_.dic"), "isn't,73253\r\nisn,73250\r\n");
+}
+
+TEST(BuildDictionary, SaysWhichFileFailed) {
+    TempDir temp;
+    const Path missing = temp / L"missing.txt";
+    const Result<BuildReport> unread = BuildDictionary({&missing, 1}, temp / L"out", {});
+    ASSERT_FALSE(unread);
+    EXPECT_EQ(unread.error().where, missing);
+
+    const Path list = temp / L"list.txt";
+    WriteBytes(list, "hello\n");
+    BuildOptions options;
+    options.excluded_lists = {missing};
+    EXPECT_FALSE(BuildDictionary({&list, 1}, temp / L"out", options));
+    std::filesystem::create_directories(temp / L"out" / "he_.dic" / "inside");
+    EXPECT_FALSE(BuildDictionary({&list, 1}, temp / L"out", {}));
+    EXPECT_FALSE(BuildDictionary({&list, 1}, list / "below a file", {}));
+}
+
+}  // namespace
+}  // namespace wordhawk

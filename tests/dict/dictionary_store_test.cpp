@@ -1,0 +1,147 @@
+#include "tests/support/dictionaries.h"
+#include "tests/support/random_text.h"
+
+#include <gtest/gtest.h>
+
+namespace wordhawk {
+namespace {
+
+using test::Dictionaries;
+using test::WriteBytes;
+
+TEST(DictionaryStore, FindsWordsWithoutRegardToCase) {
+    Dictionaries data;
+    data.WriteMain({L"hello", L"a", L"3d", L"\u00E9t\u00E9", L"x-ray"});
+    for (const std::wstring_view word : {L"hello", L"Hello", L"HELLO", L"A", L"3D", L"\u00C9t\u00E9", L"X-Ray"}) {
+        EXPECT_TRUE(data.store.IsWordInDictionaries(word, Scope::MainOnly)) << testing::PrintToString(word);
+    }
+    for (const std::wstring_view word : {L"", L"hell", L"ete", L"xray", L"zebra", L"\u65E5", L"'tis"}) {
+        EXPECT_FALSE(data.store.IsWordInDictionaries(word, Scope::MainAndCustom)) << testing::PrintToString(word);
+    }
+}
+
+TEST(DictionaryStore, LooksInCustomDictionariesUnlessMainOnly) {
+    Dictionaries data;
+    data.WriteCustom(L"CUSTOM.DIC", "zz,1\r\nwidget,87300\r\nbare\r\n");
+    data.WriteCustom(L"second.dic", "first\r\ngizmo,71250\r\n");
+    data.settings.CustomDictionaries = {L"CUSTOM.DIC", L"second.dic"};
+    EXPECT_TRUE(data.store.IsWordInDictionaries(L"Widget", Scope::MainAndCustom));
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"Widget", Scope::MainOnly));
+    EXPECT_TRUE(data.store.IsWordInCustomDictionaries(L"BARE"));
+    EXPECT_TRUE(data.store.IsWordInCustomDictionaries(L"gizmo"));
+    EXPECT_FALSE(data.store.IsWordInCustomDictionaries(L"first")) << "bare, on the first line";
+    EXPECT_FALSE(data.store.IsWordInCustomDictionaries(L""));
+
+    data.settings.CustomDictionaries = {L"second.dic"};
+    EXPECT_FALSE(data.store.IsWordInCustomDictionaries(L"widget")) << "no longer listed";
+    EXPECT_EQ(data.store.CustomCount(), 1u);
+}
+
+TEST(DictionaryStore, EmptyNamesMeanTheDefaultDictionary) {
+    Dictionaries data;
+    data.WriteCustom(L"CUSTOM.DIC", "widget,87300\r\n");
+    data.settings.CustomDic.clear();
+    data.settings.CustomDictionaries.clear();
+    EXPECT_TRUE(data.store.IsWordInCustomDictionaries(L"widget"));
+    EXPECT_EQ(data.settings.CustomDic, L"CUSTOM.DIC");
+    data.settings.CustomDic.clear();
+    EXPECT_EQ(data.store.ActiveCustomPath(), data.state.CustomFolder() / "CUSTOM.DIC");
+    EXPECT_EQ(data.settings.CustomDic, L"CUSTOM.DIC");
+}
+
+TEST(DictionaryStore, ReadsAMainFileOnceEvenWhenItIsMissing) {
+    Dictionaries data;
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
+    EXPECT_EQ(data.store.MainFileFor(L"hello"), nullptr);
+    data.WriteMain({L"hello"});
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly)) << "the disk is not tried again";
+    const Path path = data.store.MainPathFor(L"hello");
+    data.store.ReloadFile(path);
+    EXPECT_TRUE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
+    EXPECT_NE(data.store.MainFileFor(L"hello"), nullptr);
+
+    std::filesystem::remove(path);
+    EXPECT_TRUE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
+    data.store.ReloadFile(data.folder.Folder() / "Dictionarys" / "1033" / "." / "he_.dic");
+    data.store.ReloadFile(path);
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
+}
+
+TEST(DictionaryStore, ReloadFindsTheFileUnderAnotherSpellingOfItsPath) {
+    Dictionaries data;
+    data.WriteMain({L"hello"});
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"help", Scope::MainOnly));
+    data.WriteMain({L"hello", L"help"});
+    data.store.ReloadFile(data.folder.Folder() / "Dictionarys" / ".." / "Dictionarys" / "1033" / "he_.dic");
+    EXPECT_TRUE(data.store.IsWordInDictionaries(L"help", Scope::MainOnly));
+}
+
+TEST(DictionaryStore, FilesOfBytesAreThoseOfWords) {
+    Dictionaries data;
+    for (const int number : {1252, 1251, 1253}) {
+        data.state.CodePage = &AnsiCodePage::Get(number);
+        data.store.SyncWithState();
+        for (unsigned first = 0; first < 256; first += 3) {
+            for (unsigned second = 1; second < 256; second += 7) {
+                const std::wstring word = {data.state.CodePage->ToUnicode(static_cast<unsigned char>(first)),
+                                           data.state.CodePage->ToUnicode(static_cast<unsigned char>(second))};
+                const Path path = data.store.MainPathFor(word);
+                if (!std::filesystem::exists(path)) WriteBytes(path, "one,1\r\n");
+                ASSERT_EQ(&data.store.MainFileOfBytes(static_cast<unsigned char>(first), static_cast<unsigned char>(second)),
+                          data.store.MainFileFor(word))
+                    << number << " " << first << " " << second;
+            }
+        }
+    }
+}
+
+TEST(DictionaryStore, FollowsTheLanguageFolder) {
+    Dictionaries data;
+    data.WriteMain({L"hello"});
+    EXPECT_TRUE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
+    data.state.LanguageDictFolder = data.folder.Folder() / "Dictionarys" / "1031" / "";
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
+    WriteBytes(data.state.LanguageDictFolder / "ha_.dic", "hallo,72400\r\n");
+    EXPECT_TRUE(data.store.IsWordInDictionaries(L"hallo", Scope::MainOnly));
+    data.state.LanguageDictFolder = data.folder.Folder() / "Dictionarys" / "1033" / "";
+    data.store.SyncWithState();
+    EXPECT_TRUE(data.store.MainFileOfBytes('h', 'e').Contains("hello", EntryForms::KeyedOnly));
+}
+
+TEST(DictionaryStore, CustomFilesAreReadAgainOnReload) {
+    Dictionaries data;
+    EXPECT_EQ(data.store.CustomFile(0), nullptr);
+    EXPECT_EQ(data.store.CustomFile(1), nullptr);
+    data.WriteCustom(L"CUSTOM.DIC", "widget,87300\r\n");
+    EXPECT_FALSE(data.store.IsWordInCustomDictionaries(L"widget"));
+    data.store.ReloadCustomDictionaries();
+    EXPECT_TRUE(data.store.IsWordInCustomDictionaries(L"widget"));
+    ASSERT_NE(data.store.CustomFile(0), nullptr);
+    data.WriteCustom(L"CUSTOM.DIC", "gizmo,71250\r\n");
+    data.store.ReloadFile(data.store.CustomPath(L"CUSTOM.DIC"));
+    EXPECT_TRUE(data.store.IsWordInCustomDictionaries(L"gizmo"));
+}
+
+TEST(DictionaryStore, NamesFromTheSettingsNeverLeaveTheCustomFolder) {
+    Dictionaries data;
+    WriteBytes(data.folder / L"secret.dic", "x,1\r\nsecret,73263\r\n");
+    WriteBytes(data.state.CustomFolder() / "sub" / "w.dic", "x,1\r\nsecret,73263\r\n");
+    const std::wstring absolute = TextFromPath(data.folder / L"secret.dic");
+    for (const std::wstring& name : {std::wstring(L"../../secret.dic"), std::wstring(L"..\\..\\secret.dic"),
+                                     std::wstring(L"sub/w.dic"), std::wstring(L".."), absolute}) {
+        data.settings.CustomDictionaries = {name};
+        EXPECT_FALSE(data.store.IsWordInCustomDictionaries(L"secret")) << testing::PrintToString(name);
+        EXPECT_EQ(data.store.CustomFile(0), nullptr);
+        data.settings.CustomDic = name;
+        EXPECT_EQ(data.store.ActiveCustomPath(), data.state.CustomFolder());
+    }
+}
+
+TEST(DictionaryStore, AFileThatCannotBeReadCountsAsEmpty) {
+    Dictionaries data;
+    std::filesystem::create_directories(data.store.MainPathFor(L"hello"));
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
+}
+
+}  // namespace
+}  // namespace wordhawk
