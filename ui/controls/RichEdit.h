@@ -1,0 +1,66 @@
+#pragma once
+
+#include "engine/spell_document.h"
+#include "ui/controls/Control.h"
+
+#include <optional>
+#include <string>
+
+namespace wordhawk {
+
+/// The system's rich edit control, RICHEDIT50W. Offsets count UTF-16 units; a paragraph ends in one
+/// CR.
+class RichEdit : public Control {
+  public:
+    RichEdit() : Control(L"RichTextBox") {}
+    ~RichEdit() override;
+    void Create(const Where& where);
+    /// Puts an empty control in the old one's place. Emptying a large document instead can take
+    /// minutes, as some systems unlink it paragraph by paragraph.
+    void Renew();
+
+    std::wstring PlainText() const;
+    std::size_t Length() const;
+    /// Replaces everything; nothing can be undone afterwards. Line ends may be of any kind.
+    void SetPlainText(std::wstring_view text);
+
+    std::string Rtf() const;
+    /// Loads RTF (bytes) into an empty control, or in place of the selection as one step of undo.
+    /// The caller has taken out what must not come in. False when the control read nothing.
+    enum class Into { Document, Selection };
+    bool SetRtf(std::string_view rtf, Into into);
+
+    /// May reach one unit behind the last: the document's own end.
+    TextRange Selection() const;
+    void Select(TextRange range);
+    void ScrollToCaret() { Send(EM_SCROLLCARET); }
+    void ReplaceSelection(std::wstring_view text);
+    void SetRedraw(bool on);
+
+    bool CanUndo() const { return Send(EM_CANUNDO) != 0; }
+    bool Undo() { return Send(EM_UNDO) != 0; }
+    void ForgetUndo() { Send(EM_EMPTYUNDOBUFFER); }
+
+    std::wstring FontName() const;
+    /// Face, size in points and colour of text that has none of its own; no colour: the system's.
+    struct Look {
+        std::wstring face;
+        int half_points = 20;
+        std::optional<COLORREF> text;
+        COLORREF background = 0xFFFFFF;
+    };
+    void SetLook(const Look& look);
+    /// Another face for the text as a whole.
+    void SetFontName(const std::wstring& face);
+    /// Called after each change of the text, whoever makes it, by the form's EN_CHANGE.
+    std::wstring Caption() const override { return {}; }
+    void SetCaption(const std::wstring&) override {}
+
+  private:
+    void SetUp();
+
+    HMODULE library_ = nullptr;
+    Where where_{};
+};
+
+}  // namespace wordhawk
