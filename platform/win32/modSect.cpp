@@ -46,8 +46,18 @@ bool WriteSetting(std::wstring_view section, std::wstring_view key, std::wstring
 
 bool WriteSettings(std::wstring_view section, std::span<const KeyAndValue> values,
                    const Path& file) {
+    const std::wstring profile = ProfileName(file);
+    if (GetFileAttributesW(profile.c_str()) == INVALID_FILE_ATTRIBUTES) {
+        // Each call rewrites the file, so that a new one is given its whole section at once.
+        const std::wstring section_name(section);
+        std::wstring lines;
+        for (const auto& [key, value] : values) {
+            lines.append(key).append(L"=").append(StripNull(OneLine(value))).push_back(L'\0');
+        }
+        return WritePrivateProfileSectionW(section_name.c_str(), lines.c_str(), profile.c_str()) != 0;
+    }
     bool written = true;
-    for (const auto& [key, value] : values) written = WriteSetting(section, key, value, file) && written;
+    for (const auto& [key, value] : values) written &= WriteSetting(section, key, value, file);
     return written;
 }
 

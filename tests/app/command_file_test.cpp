@@ -1,0 +1,36 @@
+#include "app/command_file.h"
+
+#include <gtest/gtest.h>
+
+namespace wordhawk {
+namespace {
+
+struct Case {
+    const wchar_t* line;
+    const wchar_t* file;
+    const char* reason;
+};
+
+TEST(CommandFile, IsWhatTheLineNames) {
+    const Case cases[] = {
+        {L"", L"", "no argument"},
+        {L"note.txt", L"note.txt", "plain"},
+        {LR"("C:\My Files\a.txt" /x)", LR"(C:\My Files\a.txt)", "quoted path, then a switch"},
+        {LR"("C:\My Files\a.txt")", LR"(C:\My Files\a.txt)", "quoted path alone"},
+        {LR"("a.txt"/x)", L"a.txt/x", "without a blank nothing is cut off"},
+        {LR"(C:\My Files\a.txt /x)", LR"(C:\My Files\a.txt /x)", "unquoted: the whole line"},
+        {L"'note.txt'", L"note.txt", "apostrophes"},
+        {L"it's mine.txt", L"its mine.txt", "apostrophes go wherever they stand"},
+        {L"  a.txt  ", L"a.txt", "blanks at the ends"},
+        {LR"(  "b c.txt" "d e.txt")", L"", "a first blank makes the opening quote count as closing"},
+        {LR"("b c.txt" "d e.txt")", L"b c.txt", "only the first of two"},
+        {LR"("b c.txt)", L"b c.txt", "an unclosed quote leaves the line"},
+        {LR"("")", L"", "empty quotes"},
+        {LR"(" " x)", L"", "quoted blank"},
+        {L"\x4e01 \x00E9.rtf", L"\x4e01 \x00E9.rtf", "any script"},
+    };
+    for (const Case& row : cases) EXPECT_EQ(CommandFileFrom(row.line), row.file) << row.reason;
+}
+
+}  // namespace
+}  // namespace wordhawk
