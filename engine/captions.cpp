@@ -7,6 +7,18 @@ namespace {
 
 using modLoadRes::LoadResText;
 
+constexpr int kTextCustomWordsGo = 102;
+constexpr int kTextMainWordsStay = 103;
+constexpr int kTextAddToMain = 107;
+constexpr int kTextAlternate = 110;
+constexpr int kTextDoYouWant = 150;
+constexpr int kTextMatch = 167;
+constexpr int kTextNotFound = 175;
+constexpr int kTextPleaseConfirm = 185;
+constexpr int kTextResult = 196;
+constexpr int kTextSuggestion = 212;
+constexpr int kTextSuggestions = 213;
+
 constexpr std::wstring_view kParagraph = L"\r\n\r\n";
 
 }  // namespace
@@ -16,20 +28,21 @@ std::wstring NotFound(std::size_t count) {
 }
 
 std::wstring NothingFoundYet(const ProgramState& state) {
-    return LoadResText(state, 175, L"0 - ");
+    return LoadResText(state, kTextNotFound, L"0 - ");
 }
 
 std::wstring SuggestionCount(const ProgramState& state, std::size_t count) {
-    return LoadResText(state, count == 1 ? 212 : 213, std::to_wstring(count) + L" - ", L":");
+    return LoadResText(state, count == 1 ? kTextSuggestion : kTextSuggestions,
+                       std::to_wstring(count) + L" - ", L":");
 }
 
 std::wstring NoSuggestionsYet(const ProgramState& state) {
-    return LoadResText(state, 213, L"0 - ");
+    return LoadResText(state, kTextSuggestions, L"0 - ");
 }
 
 std::wstring ScoreRange(const ProgramState& state, int value) {
-    if (value == 100) return LoadResText(state, 167, L"100% ");
-    return LoadResText(state, 167, ScoreText(value) + L" - 100% ");
+    if (value == 100) return LoadResText(state, kTextMatch, L"100% ");
+    return LoadResText(state, kTextMatch, ScoreText(value) + L" - 100% ");
 }
 
 std::wstring Diversity(int value) {
@@ -53,17 +66,17 @@ std::wstring PadScoreText(std::wstring_view text,
 }
 
 std::wstring MainAddQuestion(const ProgramState& state) {
-    std::wstring question = LoadResText(state, 185);
-    question += LoadResText(state, 196, kParagraph, L":");
-    question += LoadResText(state, 103, std::wstring(kParagraph) + L"  ");
-    question += LoadResText(state, 110, kParagraph, L":");
-    question += LoadResText(state, 102, kParagraph);
-    question += LoadResText(state, 150, kParagraph);
+    std::wstring question = LoadResText(state, kTextPleaseConfirm);
+    question += LoadResText(state, kTextResult, kParagraph, L":");
+    question += LoadResText(state, kTextMainWordsStay, std::wstring(kParagraph) + L"  ");
+    question += LoadResText(state, kTextAlternate, kParagraph, L":");
+    question += LoadResText(state, kTextCustomWordsGo, kParagraph);
+    question += LoadResText(state, kTextDoYouWant, kParagraph);
     return question;
 }
 
 std::wstring MainAddTitle(const ProgramState& state) {
-    return LoadResText(state, 107);
+    return LoadResText(state, kTextAddToMain);
 }
 
 }  // namespace wordhawk::captions

@@ -86,6 +86,9 @@ TEST_F(SpellSessionAddTest, APhraseIsNotAdded) {
 TEST_F(SpellSessionAddTest, AddAllWritesEveryWordAndFinishes) {
     settings_.RemainOpen = false;
     Begin(L"hello wrold", {L"hello", L"wrold"});
+    // Looked up before, as the check pass does, so that the files are in the cache.
+    EXPECT_FALSE(dictionaries_.IsWordInDictionaries(L"hello", Scope::MainOnly));
+    EXPECT_FALSE(dictionaries_.IsWordInDictionaries(L"wrold", Scope::MainOnly));
     const SessionStep step = session_.AddAll(AddIndex::Main, silent_);
     EXPECT_EQ(step.kind, Kind::Finished);
     EXPECT_TRUE(step.close);

@@ -88,6 +88,8 @@ TEST(ReplacementStarts, AreThoseOfReplacingStepByStep) {
     EXPECT_EQ(ReplaceAtStarts(L"(a)(a)(a)", L"(a)", L"b"), L"b(a)b")
         << "the inserted letter hides the match next to it";
     EXPECT_EQ(ReplaceAtStarts(L"(a)(a)", L"(a)", L""), L"");
+    EXPECT_EQ(ReplaceAtStarts(L" -a-a-a", L"-a", L""), L" ")
+        << "what stands before a removed match stands before the next";
     std::mt19937 random(11);
     const std::wstring letters = L"aA'( )";
     const auto text_of = [&](std::size_t longest) {
@@ -201,6 +203,24 @@ TEST(WordPositions, ManyWordsShareTheTable) {
         ASSERT_GT(index.First(id), before) << id;
         before = index.First(id);
     }
+}
+
+TEST(WordPositions, AWordBetweenTwoReplacementsIsCountedOnce) {
+    std::wstring text = L"a'a and then a'a";
+    WordPositions index;
+    const WordPositions::Id a = index.Add(L"a", text);
+    const WordPositions::Id both = index.Add(L"b'b", text);
+    const std::vector<std::size_t> starts = index.ReplacementStarts(a, text, L"b");
+    text = L"b'b and then b'b";
+    index.Replaced(text, starts, 1, 1);
+    EXPECT_EQ(index.First(a), kNotFound);
+    EXPECT_EQ(index.First(both), 0);
+    EXPECT_EQ(index.Next(both, 1), 13);
+    EXPECT_EQ(index.Next(both, 14), kNotFound);
+    EXPECT_EQ(index.Count(both), 2u);
+    index.Remove(both);
+    index.Scan(text);
+    EXPECT_EQ(index.First(both), kNotFound) << "a removed word stays out";
 }
 
 TEST(WordPositions, ANegativeStartFindsNothing) {
