@@ -30,13 +30,21 @@ class Affix:
         return stem[:len(stem) - len(self.strip)] + self.add
 
 
+# Flags of stems that are no words by themselves.
+NOT_BARE = ("NEEDAFFIX", "ONLYINCOMPOUND")
+NOT_A_WORD = ("FORBIDDENWORD",)
+
+
 def read_rules(path):
-    """The rules of an .aff file with one-character flags, by flag."""
+    """The rules of an .aff file with one-character flags by flag, and its special flags by name."""
     rules = defaultdict(list)
+    special = {}
     crossing = {}
     with open(path, encoding="utf-8") as file:
         for line in file:
             fields = line.split()
+            if fields and fields[0] in NOT_BARE + NOT_A_WORD:
+                special[fields[0]] = fields[1]
             if not fields or fields[0] not in ("PFX", "SFX"):
                 continue
             kind, flag = fields[0], fields[1]
@@ -46,7 +54,7 @@ def read_rules(path):
             condition = fields[4] if len(fields) > 4 else "."
             rules[flag].append(
                 Affix(kind == "PFX", crossing[kind, flag], fields[2], fields[3], condition))
-    return rules
+    return rules, special
 
 
 def with_suffixes(stem, flags, rules):
@@ -67,15 +75,19 @@ def with_suffixes(stem, flags, rules):
 
 def expand(affix_path, stems_path):
     """Yields every form of every stem."""
-    rules = read_rules(affix_path)
+    rules, special = read_rules(affix_path)
+    not_bare = {special[name] for name in NOT_BARE if name in special}
+    not_a_word = {special[name] for name in NOT_A_WORD if name in special}
     with open(stems_path, encoding="utf-8") as file:
         next(file)
         for line in file:
             stem, _, flags = line.split("\t")[0].strip().partition("/")
-            if not stem:
+            if not stem or not_a_word & set(flags):
                 continue
             prefixes = [rule for flag in flags for rule in rules.get(flag, ()) if rule.is_prefix]
             for form, joins in with_suffixes(stem, flags, rules):
+                if form == stem and not_bare & set(flags):
+                    continue
                 yield form
                 if not joins:
                     continue
