@@ -1,5 +1,6 @@
 #include "platform/folders.h"
 #include "platform/locale_ids.h"
+#include "platform/modCDlg.h"
 
 #include <gtest/gtest.h>
 
@@ -82,6 +83,16 @@ TEST(PosixEnvironment, TemporaryFolder) {
     Environment environment;
     environment.Set("TMPDIR", "/nowhere/at/all");
     EXPECT_TRUE(IsFolder(TemporaryFolder()));
+}
+
+TEST(PosixEnvironment, DialogsAreAsIfCancelled) {
+    std::wstring name = L"old name";
+    std::wstring title = L"old title";
+    int filter = 7;
+    EXPECT_FALSE(modCDlg::ShowOpen({}, name, title));
+    EXPECT_FALSE(modCDlg::ShowSave({}, L"txt", filter, name, title));
+    EXPECT_EQ(name + L", " + title, L"old name, old title");
+    EXPECT_EQ(filter, 7);
 }
 
 }  // namespace

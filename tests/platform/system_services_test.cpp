@@ -1,6 +1,5 @@
 #include "platform/cIsInIDE.h"
 #include "platform/folders.h"
-#include "platform/modCDlg.h"
 #include "platform/modICCX.h"
 #include "platform/text.h"
 
@@ -29,22 +28,6 @@ TEST(SystemServices, ProgramKnowsItsPlace) {
 TEST(SystemServices, CommonControlsMayBeInitialisedTwice) {
     modICCX::InitCommonControlsVB(modICCX::kAllClasses);
     modICCX::InitCommonControlsVB(modICCX::kAllClasses);
-}
-
-// A name longer than the dialog's buffer is refused at once on every system, as if cancelled.
-TEST(SystemServices, FailingDialogLeavesItsOutputs) {
-    const std::wstring too_long(400, L'x');
-    modCDlg::Request request;
-    request.filter = std::wstring_view(L"Text\0*.txt", 10);
-    request.file_name = too_long;
-    std::wstring name = L"old name";
-    std::wstring title = L"old title";
-    int filter = 7;
-    EXPECT_FALSE(modCDlg::ShowOpen(request, name, title));
-    EXPECT_FALSE(modCDlg::ShowSave(request, L"txt", filter, name, title));
-    EXPECT_EQ(name, L"old name");
-    EXPECT_EQ(title, L"old title");
-    EXPECT_EQ(filter, 7);
 }
 
 }  // namespace
