@@ -43,11 +43,11 @@ install_packages() {
 
 # What every build needs.
 BUILD_PACKAGES="cmake ninja-build g++ python3
-    libcli11-dev libexpected-dev libsimpleini-dev nlohmann-json3-dev libgtest-dev libgmock-dev"
+    libcli11-dev libexpected-dev libsimpleini-dev nlohmann-json3-dev"
 # Sources of the shipped dictionaries (data/sources/README.md).
 WORD_LIST_PACKAGES="wamerican-large wbritish-large wngerman wfrench hunspell-es witalian hunspell-it
     wdutch wportuguese wbrazilian wdanish hunspell-sv wpolish"
 # Compilers, and what the tests are run with.
-TEST_PACKAGES="googletest clang ccache git
+TEST_PACKAGES="googletest libgtest-dev libgmock-dev clang ccache git
     g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 libwine
     xvfb xdotool imagemagick emacs-nox vim procps"

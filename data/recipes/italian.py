@@ -59,9 +59,11 @@ def italian(plain, affixes, stems):
         verb = any(flag in PRONOUN_RULES for flag in flags)
         forms = {stem}
         for flag in flags:
-            if flag not in PRONOUN_RULES + NUMBER_RULES:
-                forms |= {rule.apply(stem) for rule in rules.get(flag, ())
-                          if not rule.is_prefix and not HUNG.search(rule.add)}
+            if flag in NUMBER_RULES:
+                continue
+            longest = 1 if flag in PRONOUN_RULES else 99
+            forms |= {rule.apply(stem) for rule in rules.get(flag, ())
+                      if not rule.is_prefix and len(rule.add) <= longest and not HUNG.search(rule.add)}
         for form in forms - {None}:
             yield form
             if verb:
