@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <string>
+#include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -28,11 +30,21 @@ Result<Path> FollowLinks(Path path) {
     return tl::unexpected(ErrorFromErrno(ELOOP, path));
 }
 
-/// A name that no other writer uses, short whatever the target is called.
-Path TemporaryBeside(const Path& target) {
+struct Temporary {
+    Path path;
+    FileDescriptor file;
+};
+
+/// A fresh file beside `target`, its name short whatever the target is called. A crashed program
+/// may have left one behind under the same process number, hence the tries.
+Temporary MakeTemporaryBeside(const Path& target) {
     static std::atomic<unsigned> counter{0};
-    return target.parent_path() / (".wordhawk-" + std::to_string(getpid()) + "-" +
-                                   std::to_string(++counter) + ".tmp");
+    for (int tries = 0;; ++tries) {
+        Path path = target.parent_path() / (".wordhawk-" + std::to_string(getpid()) + "-" +
+                                            std::to_string(++counter) + ".tmp");
+        FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (file || errno != EEXIST || tries == 100) return {std::move(path), std::move(file)};
+    }
 }
 
 /// Writes everything and, if wanted, brings it to the disk; 0 or the errno of the first failure.
@@ -64,14 +76,15 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes,
     struct stat old {};
     const bool exists = stat(target->c_str(), &old) == 0;
     if (exists && S_ISDIR(old.st_mode)) return tl::unexpected(ErrorFromErrno(EISDIR, path));
+    if (exists && !S_ISREG(old.st_mode)) {
+        return tl::unexpected(Error{L"this is a device, not a file", path});
+    }
     // Asked of the mode and not of the system, which lets the superuser write everywhere.
     if (exists && (old.st_mode & S_IWUSR) == 0) {
         return tl::unexpected(Error{L"the file is read-only", path});
     }
 
-    const Path temporary = TemporaryBeside(*target);
-    FileDescriptor file(
-        open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    auto [temporary, file] = MakeTemporaryBeside(*target);
     if (!file) {
         const int code = errno;
         if (code == ENOENT) return tl::unexpected(Error{L"the folder does not exist", path});

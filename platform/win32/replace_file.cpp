@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <atomic>
+#include <string>
+#include <utility>
 
 namespace wordhawk {
 namespace {
@@ -26,11 +28,25 @@ Path FollowLinks(const Path& path, DWORD attributes) {
     return target;
 }
 
-/// A name that no other writer uses, short whatever the target is called.
-Path TemporaryBeside(const Path& target) {
+struct Temporary {
+    std::wstring path;
+    FileHandle file;
+};
+
+/// A fresh file beside `target`, its name short whatever the target is called. A crashed program
+/// may have left one behind under the same process number, hence the tries.
+Temporary MakeTemporaryBeside(const Path& target) {
     static std::atomic<unsigned> counter{0};
-    return target.parent_path() / (L".wordhawk-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                                   std::to_wstring(++counter) + L".tmp");
+    for (int tries = 0;; ++tries) {
+        const std::wstring name = L".wordhawk-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                                  std::to_wstring(++counter) + L".tmp";
+        std::wstring path = SystemPath(target.parent_path() / name);
+        FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+        if (file || GetLastError() != ERROR_FILE_EXISTS || tries == 100) {
+            return {std::move(path), std::move(file)};
+        }
+    }
 }
 
 /// Writes everything and, if wanted, brings it to the disk; ERROR_SUCCESS or the first failure.
@@ -71,9 +87,7 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes,
         return tl::unexpected(Error{L"the file is read-only", path});
     }
 
-    const std::wstring temporary = SystemPath(TemporaryBeside(target));
-    FileHandle file(CreateFileW(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                FILE_ATTRIBUTE_NORMAL, nullptr));
+    auto [temporary, file] = MakeTemporaryBeside(target);
     if (!file) return tl::unexpected(ErrorFromCode(GetLastError(), path));
     DWORD failure = WriteAll(file, bytes, durability);
     file.Reset();

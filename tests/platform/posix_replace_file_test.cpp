@@ -52,6 +52,26 @@ TEST(PosixReplaceFile, LinksStayLinks) {
     EXPECT_FALSE(ReplaceFileContents(folder / L"circle", "x"));
 }
 
+TEST(PosixReplaceFile, LeftoversOfACrashAreStrangers) {
+    const test::TempDir folder;
+    // The next names that this process would choose, taken already.
+    for (int i = 1; i <= 60; ++i) {
+        const std::string name = ".wordhawk-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp";
+        WriteBytes(folder.Folder() / name, "left");
+    }
+    EXPECT_TRUE(ReplaceFileContents(folder / L"a.dic", "new"));
+    EXPECT_EQ(ReadBytes(folder / L"a.dic"), "new");
+    EXPECT_EQ(CountEntries(folder.Folder()), 61u);
+}
+
+TEST(PosixReplaceFile, DevicesAreNotReplaced) {
+    const test::TempDir folder;
+    const Path pipe = folder / L"pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_FALSE(ReplaceFileContents(pipe, "x"));
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+}
+
 /// A small file system of its own; only the superuser can make one.
 class FullDisk : public testing::Test {
   protected:
