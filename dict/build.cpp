@@ -42,44 +42,48 @@ void ForEachPiece(std::wstring_view word, std::wstring_view delimiters, Use&& us
     }
 }
 
-/// The distinct entry lines of all lists.
+/// The entry lines of all lists, by the file that they go to.
 class WordCollection {
   public:
-    explicit WordCollection(const BuildOptions& options) : options_(options) {}
+    explicit WordCollection(const BuildOptions& options) : options_(options), file_of_beginning_(65536) {}
+
+    /// To be called before the words are added.
+    void Exclude(const std::wstring& word) {
+        if (PageHolds(word, *options_.page)) excluded_.insert(EntryLine(word, *options_.page));
+    }
 
     void Add(const std::wstring& word) {
         AddOne(word);
         if (word.find_first_of(options_.piece_delimiters) == std::wstring::npos) return;
         ForEachPiece(word, options_.piece_delimiters, [this](std::wstring_view piece) { AddOne(piece); });
     }
-    void Remove(const std::wstring& word) { lines_.erase(EntryLine(word, *options_.page)); }
 
-    std::size_t size() const { return lines_.size(); }
     std::size_t Skipped() const { return skipped_; }
-
-    /// File name -> its lines, not yet in order.
-    std::map<std::wstring, std::string> ByFile() const {
-        const AnsiCodePage& page = *options_.page;
-        std::map<std::wstring, std::string> files;
-        for (const std::string& line : lines_) {
-            const std::string_view word = std::string_view(line).substr(0, line.find(','));
-            files[GetDictionaryFileName(page.Decode(word.substr(0, 2)), page)] += line;
-        }
-        return files;
-    }
+    /// File name -> its lines, in no order and with repeats.
+    const std::map<std::wstring, std::string>& Files() const { return files_; }
 
   private:
     void AddOne(std::wstring_view word) {
-        Result<std::string> line = CheckedEntryLine(word, *options_.page);
-        if (line) {
-            lines_.insert(std::move(*line));
-        } else {
+        const Result<std::string> line = CheckedEntryLine(word, *options_.page);
+        if (!line) {
             ++skipped_;
+        } else if (excluded_.empty() || !excluded_.contains(*line)) {
+            FileOf(*line, word) += *line;
         }
     }
 
+    std::string& FileOf(std::string_view line, std::wstring_view word) {
+        const auto byte = [line](std::size_t i) { return static_cast<unsigned char>(line[i]); };
+        std::string*& file = file_of_beginning_[byte(0) * 256u + byte(1)];
+        if (file == nullptr) file = &files_[GetDictionaryFileName(word, *options_.page)];
+        return *file;
+    }
+
     const BuildOptions& options_;
-    std::unordered_set<std::string> lines_;
+    std::unordered_set<std::string> excluded_;
+    std::map<std::wstring, std::string> files_;
+    /// By the first two bytes of a line; the second is the comma after a single letter.
+    std::vector<std::string*> file_of_beginning_;
     std::size_t skipped_ = 0;
 };
 
@@ -88,26 +92,26 @@ class WordCollection {
 Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path& output,
                                     const BuildOptions& options) {
     WordCollection words(options);
+    for (const Path& list : options.excluded_lists) {
+        const Result<void> read =
+            ForEachWordOf(list, *options.page, [&](const std::wstring& word) { words.Exclude(word); });
+        if (!read) return tl::unexpected(read.error());
+    }
     for (const Path& list : word_lists) {
         const Result<void> read =
             ForEachWordOf(list, *options.page, [&](const std::wstring& word) { words.Add(word); });
         if (!read) return tl::unexpected(read.error());
     }
-    for (const Path& list : options.excluded_lists) {
-        const Result<void> read = ForEachWordOf(list, *options.page, [&](const std::wstring& word) {
-            if (PageHolds(word, *options.page)) words.Remove(word);
-        });
-        if (!read) return tl::unexpected(read.error());
-    }
 
     if (!MakeFolder(output)) return tl::unexpected(Error{L"the output folder cannot be made", output});
-    BuildReport report{words.size(), 0, words.Skipped()};
-    for (const auto& [name, bytes] : words.ByFile()) {
-        const std::string sorted = dictionary_edit::Sorted(bytes, *options.page);
+    BuildReport report{0, 0, words.Skipped()};
+    for (const auto& [name, bytes] : words.Files()) {
+        const std::string sorted = dictionary_edit::SortedDistinct(bytes, *options.page);
         // Hundreds of files that can be built again are not worth a flush to the disk each.
         const Result<void> written = ReplaceFileContents(output / PathFromText(name), sorted,
                                                          Durability::LeftToTheSystem);
         if (!written) return tl::unexpected(written.error());
+        report.words += static_cast<std::size_t>(std::count(sorted.begin(), sorted.end(), '\n'));
         ++report.files;
     }
     return report;

@@ -167,12 +167,13 @@ std::optional<std::string> WithEntries(std::string_view bytes,
     return addition.Finish();
 }
 
-std::string Sorted(std::string_view bytes, const AnsiCodePage& page) {
+std::string SortedDistinct(std::string_view bytes, const AnsiCodePage& page) {
     Lines lines;
     ForEachLine(bytes, [&](std::string_view line) {
         if (!line.empty()) lines.push_back(line);
     });
     LineOrder(page).Sort(lines);
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     return Joined(lines);
 }
 

@@ -22,6 +22,25 @@ constexpr std::array<bool, 256> kStopsEntry = MakeEntryStops();
 // An offset and one more bit must fit 32 bits, with 0 left to mark a free slot.
 constexpr std::size_t kMostIndexedBytes = std::numeric_limits<std::uint32_t>::max() / 2 - 1;
 
+/// A word of eight or nine letters, comma, key and line end; only room is reserved by it.
+constexpr std::size_t kUsualEntryBytes = 16;
+
+/// The byte behind the first LF from `at` on, or `end`.
+const char* BehindNextLineFeed(const char* at, const char* end) {
+    // Mostly a comma, five digits, CR and LF: within one word of the machine.
+    if constexpr (std::endian::native == std::endian::little) {
+        if (end - at >= 8) {
+            std::uint64_t eight;
+            std::memcpy(&eight, at, 8);
+            eight ^= 0x0A0A0A0A0A0A0A0A;
+            const std::uint64_t zero = (eight - 0x0101010101010101) & ~eight & 0x8080808080808080;
+            if (zero != 0) return at + std::countr_zero(zero) / 8 + 1;
+        }
+    }
+    const auto* feed = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)));
+    return feed != nullptr ? feed + 1 : end;
+}
+
 /// The lookup by its definition, for the words and files that the index does not cover.
 bool FoundInBytes(std::string_view bytes, std::string_view word, EntryForms forms) {
     std::string pattern;
@@ -47,7 +66,7 @@ bool DictionaryFile::Contains(std::string_view word, EntryForms forms) const {
 bool DictionaryFile::ContainsHashed(std::string_view word, std::uint32_t hash,
                                     EntryForms forms) const {
     if (!indexed_) BuildIndex();
-    if (slots_.empty()) return !bytes_.empty() && FoundInBytes(bytes_, word, forms);
+    if (slots_.empty()) return bytes_.size() > kMostIndexedBytes && FoundInBytes(bytes_, word, forms);
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t i = hash & mask; slots_[i].place != 0; i = (i + 1) & mask) {
         if (slots_[i].hash != hash || !Holds(slots_[i], word)) continue;
@@ -66,10 +85,9 @@ bool DictionaryFile::Holds(const Slot& slot, std::string_view word) const {
 
 void DictionaryFile::BuildIndex() const {
     indexed_ = true;
-    if (bytes_.empty() || bytes_.size() > kMostIndexedBytes) return;
-    const auto lines = static_cast<std::size_t>(std::count(bytes_.begin(), bytes_.end(), '\n')) + 1;
-    slots_.assign(std::bit_ceil(2 * lines), Slot{});
-
+    if (bytes_.size() > kMostIndexedBytes) return;
+    std::vector<Slot> entries;
+    entries.reserve(bytes_.size() / kUsualEntryBytes);
     const char* const begin = bytes_.data();
     const char* const end = begin + bytes_.size();
     for (const char* start = begin; start != end;) {
@@ -80,21 +98,23 @@ void DictionaryFile::BuildIndex() const {
         }
         if (at == end) break;
         if (*at == ',' || (*at == '\r' && start != begin)) {
-            const bool bare = *at == '\r';
-            AddToIndex({FinishHash(hash), static_cast<std::uint32_t>(1 + 2 * (start - begin) + bare)},
-                       std::string_view(start, static_cast<std::size_t>(at - start)));
+            const auto place = static_cast<std::uint32_t>(1 + 2 * (start - begin) + (*at == '\r'));
+            entries.push_back({FinishHash(hash), place});
         }
-        const auto* feed = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)));
-        if (feed == nullptr) break;
-        start = feed + 1;
+        start = BehindNextLineFeed(at, end);
     }
+    if (entries.empty()) return;
+    slots_.assign(std::bit_ceil(2 * entries.size()), Slot{});
+    for (const Slot& entry : entries) AddToIndex(entry);
 }
 
-void DictionaryFile::AddToIndex(Slot slot, std::string_view word) const {
+void DictionaryFile::AddToIndex(Slot slot) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t i = slot.hash & mask;
     for (; slots_[i].place != 0; i = (i + 1) & mask) {
-        if (slots_[i].hash != slot.hash || !Holds(slots_[i], word)) continue;
+        if (slots_[i].hash != slot.hash) continue;
+        const std::size_t stop = bytes_.find(slot.IsBare() ? '\r' : ',', slot.Offset());
+        if (!Holds(slots_[i], {bytes_.data() + slot.Offset(), stop - slot.Offset()})) continue;
         // One slot a word; the keyed form answers for both kinds of lookup.
         if (slots_[i].IsBare()) slots_[i] = slot;
         return;

@@ -88,7 +88,7 @@ class DictionaryFile {
         bool IsBare() const { return ((place - 1) & 1) != 0; }
     };
     void BuildIndex() const;
-    void AddToIndex(Slot slot, std::string_view word) const;
+    void AddToIndex(Slot slot) const;
     bool Holds(const Slot& slot, std::string_view word) const;
 
     std::string bytes_;
@@ -121,8 +121,8 @@ std::optional<std::string> WithEntries(std::string_view bytes,
                                        const AnsiCodePage& page,
                                        SortMoment moment = SortMoment::AfterLastEntry);
 
-/// All lines of `bytes` that are not empty, sorted.
-std::string Sorted(std::string_view bytes, const AnsiCodePage& page);
+/// All lines of `bytes` that are not empty, sorted, each once.
+std::string SortedDistinct(std::string_view bytes, const AnsiCodePage& page);
 
 /// Removes the first line equal to `entry` (no line end). None when there is no such line.
 std::optional<std::string> WithoutEntry(std::string_view bytes, std::string_view entry);

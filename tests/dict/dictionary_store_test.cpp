@@ -81,8 +81,8 @@ TEST(DictionaryStore, FilesOfBytesAreThoseOfWords) {
     for (const int number : {1252, 1251, 1253}) {
         data.state.CodePage = &AnsiCodePage::Get(number);
         data.store.SyncWithState();
-        for (unsigned first = 0; first < 256; first += 3) {
-            for (unsigned second = 1; second < 256; second += 7) {
+        for (unsigned first = 0; first < 256; first += 11) {
+            for (unsigned second = 1; second < 256; second += 19) {
                 const std::wstring word = {data.state.CodePage->ToUnicode(static_cast<unsigned char>(first)),
                                            data.state.CodePage->ToUnicode(static_cast<unsigned char>(second))};
                 const Path path = data.store.MainPathFor(word);
