@@ -1,0 +1,247 @@
+#!/usr/bin/env python3
+"""Measures wordhawk-cli beside Debian's hunspell, nuspell, aspell and ispell, in one run.
+
+    bench/compare.py             prints the tables
+    bench/compare.py --write     also writes them to docs/benchmarks.md
+    bench/compare.py --large     with the 1 GB text as well
+    bench/compare.py --quick     fewer runs, for a first look
+
+Wants the preset "native" built (./run does it), for the Windows column the preset "windows" too, and the
+packages hunspell, hunspell-en-us, libhunspell-dev, nuspell, libnuspell-dev, libicu-dev, aspell, aspell-en,
+ispell, iamerican, codespell, wamerican and npm.
+"""
+
+import argparse
+import datetime
+import os
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+import measure
+import suggestions
+import texts
+
+ROOT = Path(__file__).resolve().parents[1]
+WORK = ROOT / "build" / "bench"
+ENGLISH = "/usr/share/hunspell/en_US"
+LARGE_LIST = "/usr/share/dict/american-english-large"
+
+
+class Bench:
+    def __init__(self, arguments):
+        self.arguments = arguments
+        self.lines = []
+        self.exe = Path(arguments.build) / "bin" / "wordhawk-cli"
+        self.windows = Path(arguments.windows) / "bin" / "wordhawk-cli.exe"
+        self.times = 2 if arguments.quick else 5
+        self.texts = texts.make_texts(WORK, arguments.large)
+        measure.prepare(WORK)
+        self.pairs = texts.misspellings()
+        self.data = WORK / "data"
+        shutil.rmtree(self.data, ignore_errors=True)
+        self.ours = [self.exe, "--data", self.data, "--locale", "1033"]
+        # Copies the dictionaries, so that no measured run does.
+        measure.run(self.ours + ["check", "--list", self.texts["line"]])
+
+    def say(self, line=""):
+        print(line, flush=True)
+        self.lines.append(line)
+
+    def table(self, header, rows):
+        self.say("| " + " | ".join(header) + " |")
+        self.say("|" + "---|" * len(header))
+        for row in rows:
+            self.say("| " + " | ".join(str(cell) for cell in row) + " |")
+        self.say()
+
+    def program(self, source, *libraries):
+        """Compiles one of this folder's helper programs."""
+        target = WORK / Path(source).stem
+        subprocess.run(["g++", "-O2", "-std=c++20", ROOT / "bench" / source, "-o", target, *libraries],
+                       check=True)
+        return target
+
+    def checking(self):
+        """Throughput of listing the unknown words of 10 MB."""
+        text = self.texts["10MB"]
+        megabytes = text.stat().st_size / 1e6
+        libraries = self.program("peer_libraries.cpp", "-lhunspell-1.7", "-lnuspell", "-licuuc")
+        bound = self.program("bound.cpp")
+        contenders = [
+            ("wordhawk-cli check --list", self.ours + ["check", "--list", text], None, 1),
+            ("bound: one hash-set look-up a word", [bound, LARGE_LIST], text, 1),
+            ("aspell list", ["aspell", "-l", "en_US", "list"], text, 1),
+            ("ispell -l", ["ispell", "-l", "-d", "american"], text, 1),
+            ("nuspell, library", [libraries, "nuspell", ENGLISH + ".aff", ENGLISH + ".dic"], text, 1),
+            ("hunspell, library", [libraries, "hunspell", ENGLISH + ".aff", ENGLISH + ".dic"], text, 1),
+            ("hunspell -l, on 1 MB", ["hunspell", "-d", "en_US", "-l"], self.texts["1MB"], 10),
+        ]
+        rates = []
+        for name, command, source, part in contenders:
+            took = measure.best(command, self.times, source=source)
+            rates.append((name, megabytes / part / took.cpu, took.memory))
+        own = rates[0][1]
+        self.say("## Listing the unknown words of 10 MB\n")
+        self.table(("program", "MB/s", "ours is", "peak memory"),
+                   [(name, f"{rate:.1f}", f"{own / rate:.2f} x", f"{memory:.0f} MiB")
+                    for name, rate, memory in rates])
+
+    def growing(self):
+        """Time and memory of ours over the size of the text."""
+        rows = []
+        for name, path in self.texts.items():
+            if name == "line":
+                continue
+            size = path.stat().st_size / 1e6
+            took = measure.best(self.ours + ["check", "--list", path], 1 if size > 500 else self.times)
+            rows.append((name, f"{took.cpu:.3f} s", f"{size / took.cpu:.0f}", f"{took.memory:.0f} MiB"))
+        self.say("## Growing texts\n")
+        self.table(("text", "processor time", "MB/s", "peak memory"), rows)
+
+    def starting(self):
+        """Wall time of a check of one line."""
+        line = self.texts["line"]
+        times = 30 if self.arguments.quick else 200
+        contenders = [
+            ("wordhawk-cli check --list", self.ours + ["check", "--list", line]),
+            ("ispell -l", ["ispell", "-l", "-d", "american"]),
+            ("aspell list", ["aspell", "-l", "en_US", "list"]),
+            ("hunspell -l", ["hunspell", "-d", "en_US", "-l"]),
+            ("nuspell", ["nuspell", "-d", "en_US"]),
+        ]
+        walls = [(name, measure.median_wall(command, times, source=line)) for name, command in contenders]
+        own = walls[0][1]
+        self.say(f"## Start-up: one line of 18 words, median of {times} runs\n")
+        self.table(("program", "ms", "of ours"),
+                   [(name, f"{wall * 1000:.2f}", f"{wall / own:.2f} x") for name, wall in walls])
+
+    def suggesting(self):
+        """Requests a second, and how good the answers are."""
+        aspell = ["aspell", "-a", "-l", "en_US"]
+
+        def mode(*settings):
+            return self.ours + [part for setting in settings for part in ("--set", setting)] + \
+                ["suggest", "--stdin"]
+
+        swaps = "ExtraDiversity=1"
+        contenders = [
+            ("wordhawk-cli, default (SortBy=0)", mode(), suggestions.ours, 20000),
+            ("wordhawk-cli, SortBy=1", mode("SortBy=1"), suggestions.ours, 20000),
+            ("wordhawk-cli, SortBy=2", mode("SortBy=2"), suggestions.ours, 20000),
+            ("wordhawk-cli, swaps", mode(swaps), suggestions.ours, 20000),
+            ("wordhawk-cli, swaps, SortBy=1", mode(swaps, "SortBy=1"), suggestions.ours, 20000),
+            ("wordhawk-cli, swaps, SortBy=2", mode(swaps, "SortBy=2"), suggestions.ours, 20000),
+            ("aspell, normal", aspell + ["--sug-mode=normal"], suggestions.pipe, 5000),
+            ("aspell, ultra", aspell + ["--sug-mode=ultra"], suggestions.pipe, 10000),
+            ("ispell", ["ispell", "-a", "-d", "american"], suggestions.pipe, 2000),
+            ("hunspell", ["hunspell", "-a", "-d", "en_US"], suggestions.pipe, 300),
+            ("nuspell", ["nuspell", "-d", "en_US"], suggestions.nuspell, 300),
+        ]
+        sample = self.pairs[:100 if self.arguments.quick else 1000]
+        words = WORK / "misspellings.txt"
+        rates = []
+        for name, command, read, count in contenders:
+            chosen = [wrong for wrong, _ in self.pairs[:count // 10 if self.arguments.quick else count]]
+            mark = "^" if read is suggestions.pipe else ""
+            words.write_text("".join(f"{mark}{word}\n" for word in chosen), encoding="utf-8")
+            took = measure.best(command, 2, source=words)
+            shares = suggestions.quality(read(command, [wrong for wrong, _ in sample]), sample)
+            rates.append((name, len(chosen) / took.cpu, shares))
+        normal, hunspell = (next(rate for name, rate, _ in rates if name == wanted)
+                            for wanted in ("aspell, normal", "hunspell"))
+        self.say("## Suggestions\n")
+        self.say(f"Requests a second of processor time over the first of {len(self.pairs)} misspellings, and "
+                 f"where the right word stands in the answers to {len(sample)} of them.\n")
+        self.table(("program", "requests/s", "of aspell normal", "of hunspell", "first", "in first five", "anywhere"),
+                   [(name, f"{rate:,.0f}", f"{rate / normal:.2f} x", f"{rate / hunspell:.0f} x",
+                     *(f"{share:.1f} %" for share in shares)) for name, rate, shares in rates])
+
+    def changing(self):
+        """Adding to and importing big custom dictionaries."""
+        words = texts.invented_words(100_000)
+        source = WORK / "INVENTED.DIC"
+        source.write_text("\r\n".join(words) + "\r\n", encoding="utf-8", newline="")
+        custom = self.data / "Dictionarys" / "Custom"
+        imports = []
+        for _ in range(3):
+            (custom / "INVENTED.DIC").unlink(missing_ok=True)
+            imports.append(measure.run(self.ours + ["import", source]).wall)
+        lines = (custom / "INVENTED.DIC").read_bytes().count(b"\n")
+        adds = []
+        for number in range(11):
+            word = "added" + "abcdefghijk"[number]
+            adds.append(measure.run(self.ours + ["add", "--custom", "INVENTED.DIC", word]).wall)
+        grown = (custom / "INVENTED.DIC").read_bytes().count(b"\n")
+        if lines != len(words) or grown != lines + 11:
+            raise SystemExit(f"the custom dictionary has {lines}, then {grown} words")
+        self.say("## Changing dictionaries (wall time, whole process)\n")
+        self.table(("job", "time"), [
+            ("import 100,000 words", f"{min(imports):.3f} s"),
+            ("add one word to a dictionary of 100,000", f"{sorted(adds)[5] * 1000:.1f} ms")])
+
+    def under_wine(self):
+        """The Windows program beside the native one, without the start of each."""
+        if not self.windows.exists():
+            self.say("(The Windows program is not built.)\n")
+            return
+        wine = {"WINEPREFIX": str(ROOT / "build" / "wine"), "WINEDEBUG": "-all"}
+        keep_alive = subprocess.Popen(["wineserver", "-p", "-f"], env={**os.environ, **wine},
+                                      stderr=subprocess.DEVNULL)
+        try:
+            exe = ["wine", self.windows, "--data", "Z:" + str(WORK / "data-windows").replace("/", "\\"),
+                   "--locale", "1033"]
+            measure.run(exe + ["check", "--list", self.texts["line"]], environment=wine)
+            rows = []
+            for name, command, environment in (("native", self.ours, None), ("under Wine", exe, wine)):
+                short = measure.best(command + ["check", "--list", self.texts["line"]], self.times,
+                                     environment=environment)
+                long = measure.best(command + ["check", "--list", self.texts["10MB"]], self.times,
+                                    environment=environment)
+                rows.append((name, short.wall, long.wall - short.wall))
+            own = rows[0][2]
+            self.say("## wordhawk-cli.exe under Wine\n")
+            self.table(("", "one line", "10 MB once started", "of native"),
+                       [(name, f"{short * 1000:.0f} ms", f"{rest:.3f} s", f"{rest / own:.2f} x")
+                        for name, short, rest in rows])
+        finally:
+            keep_alive.terminate()
+
+    def introduction(self):
+        versions = ", ".join(f"{name} {measure.version_of(name)}"
+                             for name in ("hunspell", "nuspell", "aspell", "ispell"))
+        self.say("# Benchmarks\n")
+        self.say("Written by `bench/compare.py --write`, which repeats it all; every figure is from one run, ours "
+                 "and theirs side by side.\n")
+        self.say(f"- Date: {datetime.date.today().isoformat()}")
+        self.say(f"- Machine: {measure.machine()}")
+        self.say(f"- Peers: Debian's {versions}")
+        self.say("- Text: the Brown corpus and the King James text joined and cut to 10 MB; misspellings and their "
+                 "corrections from codespell")
+        self.say("- Times are processor time (user and system) of the whole process, the best of several runs, "
+                 "unless it says wall time\n")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--write", action="store_true")
+    parser.add_argument("--large", action="store_true")
+    parser.add_argument("--quick", action="store_true")
+    parser.add_argument("--build", default=ROOT / "build" / "native", help="build tree of the native program")
+    parser.add_argument("--windows", default=ROOT / "build" / "windows", help="build tree of the Windows one")
+    parser.add_argument("--only", help="one part: checking, growing, starting, suggesting, changing, under_wine")
+    arguments = parser.parse_args()
+    bench = Bench(arguments)
+    bench.introduction()
+    parts = ("checking", "growing", "starting", "suggesting", "changing", "under_wine")
+    for part in parts if not arguments.only else (arguments.only,):
+        getattr(bench, part)()
+    if arguments.write:
+        (ROOT / "docs").mkdir(exist_ok=True)
+        (ROOT / "docs" / "benchmarks.md").write_text("\n".join(bench.lines).rstrip() + "\n", encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()

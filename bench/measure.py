@@ -1,0 +1,76 @@
+"""Runs a program and tells what it took."""
+
+import os
+import platform
+import statistics
+import subprocess
+from pathlib import Path
+
+timer = None
+
+
+class Run:
+    """One finished process: wall and processor seconds, peak memory in MiB, exit status."""
+
+    def __init__(self, wall, cpu, memory, status):
+        self.wall = float(wall)
+        self.cpu = float(cpu)
+        self.memory = int(memory) / 1024
+        self.status = int(status)
+
+
+def prepare(folder):
+    """Compiles the program that does the timing into `folder`."""
+    global timer
+    timer = folder / "timed"
+    source = Path(__file__).resolve().parent / "timed.cpp"
+    subprocess.run(["g++", "-O2", "-std=c++20", source, "-o", timer], check=True)
+
+
+def run(command, source=None, environment=None):
+    """Runs `command` with the file `source` as input and its output thrown away."""
+    result = timer.with_suffix(".result")
+    with open(source or os.devnull, "rb") as stdin:
+        subprocess.run([timer, result, *map(str, command)], stdin=stdin, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, env={**os.environ, **(environment or {})}, check=True)
+    return Run(*result.read_text().split())
+
+
+def best(command, times=5, allowed=(0, 1), **options):
+    """The run with the least processor time of several; ends the script when one fails."""
+    runs = []
+    for _ in range(times):
+        one = run(command, **options)
+        if one.status not in allowed:
+            raise SystemExit(f"exit status {one.status}: {' '.join(map(str, command))}")
+        runs.append(one)
+    return min(runs, key=lambda one: one.cpu)
+
+
+def median_wall(command, times, allowed=(0, 1), **options):
+    """Median of the wall time of many short runs, in seconds; the first, cold one is dropped."""
+    walls = []
+    for _ in range(times + 1):
+        one = run(command, **options)
+        if one.status not in allowed:
+            raise SystemExit(f"exit status {one.status}: {' '.join(map(str, command))}")
+        walls.append(one.wall)
+    return statistics.median(walls[1:])
+
+
+def machine():
+    """Processor, cores, memory and system in one line."""
+    processor = "unknown processor"
+    with open("/proc/cpuinfo", encoding="utf-8") as file:
+        for line in file:
+            if line.startswith("model name"):
+                processor = line.split(":", 1)[1].strip()
+                break
+    memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 2**30
+    system = platform.freedesktop_os_release().get("PRETTY_NAME", platform.system())
+    return f"{processor}, {os.cpu_count()} cores, {memory:.0f} GiB, {system}, Linux {platform.release()}"
+
+
+def version_of(package):
+    found = subprocess.run(["dpkg-query", "-W", "-f", "${Version}", package], capture_output=True, text=True)
+    return found.stdout or "not installed"
