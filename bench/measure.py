@@ -47,15 +47,15 @@ def best(command, times=5, allowed=(0, 1), **options):
     return min(runs, key=lambda one: one.cpu)
 
 
-def median_wall(command, times, allowed=(0, 1), **options):
-    """Median of the wall time of many short runs, in seconds; the first, cold one is dropped."""
-    walls = []
+def median(command, times, allowed=(0, 1), **options):
+    """Medians of wall and processor time of many short runs, in seconds; the first, cold one is dropped."""
+    runs = []
     for _ in range(times + 1):
         one = run(command, **options)
         if one.status not in allowed:
             raise SystemExit(f"exit status {one.status}: {' '.join(map(str, command))}")
-        walls.append(one.wall)
-    return statistics.median(walls[1:])
+        runs.append(one)
+    return statistics.median(one.wall for one in runs[1:]), statistics.median(one.cpu for one in runs[1:])
 
 
 def machine():
