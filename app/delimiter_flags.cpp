@@ -19,8 +19,8 @@ struct CodeRange {
 
 // Apostrophe, space and the letters have no flag, and of the codes from 248 up only 248.
 constexpr CodeRange kCodeRanges[] = {
-    {1, 9, 9},      {2, 33, 38},      {8, 40, 64},      {33, 91, 96},
-    {39, 123, 157}, {74, 160, 191},   {106, 215, 215},  {107, 247, 248},
+    {1, 9, 9},      {2, 33, 38},    {8, 40, 64},     {33, 91, 96},
+    {39, 123, 157}, {74, 160, 191}, {106, 215, 215}, {107, 247, 248},
 };
 
 /// The stored text, whole: reading it as a value would cut off its last character.

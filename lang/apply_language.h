@@ -5,7 +5,8 @@
 
 namespace wordhawk {
 
-/// Replaces every text id that the form and its controls carry by the text in the language in force.
+/// Replaces every text id that the form and its controls carry by the text in the language in
+/// force.
 void ApplyLanguage(const ProgramState& state, Form& form);
 
 /// Empties the texts and pictures of the form and its controls, when it unloads.

@@ -5,7 +5,8 @@
 
 namespace wordhawk {
 
-/// A tab, toolbar button, menu entry of a button, or column header of a control.
+/// One of a control's tabs, toolbar buttons or ColumnHeaders, or of the ButtonMenus of a button. Only
+/// buttons have a Description and ButtonMenus.
 struct FormItem {
     std::wstring caption;
     std::wstring tag;

@@ -20,7 +20,8 @@ bool EndsWith(std::wstring_view name, std::wstring_view ending) {
 std::vector<std::wstring> ListNames(const Path& folder, Wanted wanted, std::wstring_view ending) {
     std::vector<std::pair<std::wstring, std::wstring>> names;
     for (FolderEntry& entry : FolderEntries(folder)) {
-        if (entry.is_folder != (wanted == Wanted::Folders) || !EndsWith(entry.name, ending)) continue;
+        if (entry.is_folder != (wanted == Wanted::Folders) || !EndsWith(entry.name, ending))
+            continue;
         std::wstring upper = Upper(entry.name);
         names.emplace_back(std::move(upper), std::move(entry.name));
     }

@@ -14,7 +14,8 @@ struct Error {
     std::filesystem::path where;
 };
 
-/// A value, or the reason why there is none. Expected failures travel this way, never as exceptions.
+/// A value, or the reason why there is none. Expected failures travel this way, never as
+/// exceptions.
 template <class T>
 using Result = tl::expected<T, Error>;
 

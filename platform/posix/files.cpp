@@ -68,7 +68,8 @@ std::vector<FolderEntry> FolderEntries(const Path& folder) {
     std::filesystem::directory_iterator entry(folder, error);
     while (!error && entry != std::filesystem::directory_iterator()) {
         std::error_code dangling_link;
-        entries.push_back({TextFromPath(entry->path().filename()), entry->is_directory(dangling_link)});
+        entries.push_back(
+            {TextFromPath(entry->path().filename()), entry->is_directory(dangling_link)});
         entry.increment(error);
     }
     return entries;

@@ -21,7 +21,8 @@ Path HomeFolder() {
     std::array<char, 4096> buffer;
     passwd entry{};
     passwd* found = nullptr;
-    if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || !found) return {};
+    if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || !found)
+        return {};
     return Path(found->pw_dir);
 }
 

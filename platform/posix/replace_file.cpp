@@ -68,8 +68,7 @@ void FlushFolder(const Path& folder) {
 
 }  // namespace
 
-Result<void> ReplaceFileContents(const Path& path, std::string_view bytes,
-                                 Durability durability) {
+Result<void> ReplaceFileContents(const Path& path, std::string_view bytes, Durability durability) {
     const Result<Path> target = FollowLinks(path);
     if (!target) return tl::unexpected(target.error());
 

@@ -85,7 +85,8 @@ std::vector<FolderEntry> FolderEntries(const Path& folder) {
     do {
         std::wstring name = found.cFileName;
         if (name == L"." || name == L"..") continue;
-        entries.push_back({std::move(name), (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
+        entries.push_back(
+            {std::move(name), (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
     } while (FindNextFileW(search.Get(), &found));
     return entries;
 }

@@ -40,7 +40,8 @@ class Dialog {
     OPENFILENAMEW* Record() { return &record_; }
     std::wstring FileName() const { return std::wstring(modSect::StripNull(name_)); }
     std::wstring FileTitle() const {
-        return std::wstring(modSect::StripNull(std::wstring_view(name_).substr(record_.nFileOffset)));
+        return std::wstring(
+            modSect::StripNull(std::wstring_view(name_).substr(record_.nFileOffset)));
     }
 
   private:

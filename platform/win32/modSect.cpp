@@ -54,7 +54,8 @@ bool WriteSettings(std::wstring_view section, std::span<const KeyAndValue> value
         for (const auto& [key, value] : values) {
             lines.append(key).append(L"=").append(StripNull(OneLine(value))).push_back(L'\0');
         }
-        return WritePrivateProfileSectionW(section_name.c_str(), lines.c_str(), profile.c_str()) != 0;
+        return WritePrivateProfileSectionW(section_name.c_str(), lines.c_str(), profile.c_str()) !=
+               0;
     }
     bool written = true;
     for (const auto& [key, value] : values) written &= WriteSetting(section, key, value, file);
@@ -68,7 +69,8 @@ std::vector<std::wstring> ReadSection(const Path& file, std::wstring_view sectio
     DWORD length = 0;
     for (;;) {
         const auto size = static_cast<DWORD>(buffer.size());
-        length = GetPrivateProfileSectionW(section_name.c_str(), buffer.data(), size, profile.c_str());
+        length =
+            GetPrivateProfileSectionW(section_name.c_str(), buffer.data(), size, profile.c_str());
         if (length < size - 2) break;
         buffer.resize(buffer.size() * 2);
     }

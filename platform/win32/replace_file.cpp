@@ -73,8 +73,7 @@ DWORD RenameOver(const std::wstring& temporary, const std::wstring& target) {
 
 }  // namespace
 
-Result<void> ReplaceFileContents(const Path& path, std::string_view bytes,
-                                 Durability durability) {
+Result<void> ReplaceFileContents(const Path& path, std::string_view bytes, Durability durability) {
     const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
     if (exists && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
@@ -93,7 +92,8 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes,
     file.Reset();
     if (failure == ERROR_SUCCESS && exists) {
         // Hidden and the like stay as they were; not worth failing for.
-        constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+        constexpr DWORD kKept =
+            FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
         SetFileAttributesW(temporary.c_str(), (target_attributes & kKept) | FILE_ATTRIBUTE_ARCHIVE);
     }
     if (failure == ERROR_SUCCESS) failure = RenameOver(temporary, target_text);

@@ -80,9 +80,9 @@ TEST(DelimiterFlags, CodesOfTheRangesEnds) {
     const struct {
         int flag;
         int code;
-    } cases[] = {{1, 9},    {2, 33},   {7, 38},    {8, 40},    {16, 48},   {25, 57},   {32, 64},
-                 {33, 91},  {38, 96},  {39, 123},  {73, 157},  {74, 160},  {105, 191}, {106, 215},
-                 {107, 247}, {108, 248}, {109, 0},  {0, 0},     {255, 0}};
+    } cases[] = {{1, 9},     {2, 33},    {7, 38},   {8, 40},   {16, 48},  {25, 57},   {32, 64},
+                 {33, 91},   {38, 96},   {39, 123}, {73, 157}, {74, 160}, {105, 191}, {106, 215},
+                 {107, 247}, {108, 248}, {109, 0},  {0, 0},    {255, 0}};
     for (const auto& row : cases) EXPECT_EQ(DelimiterCodeOfFlag(row.flag), row.code) << row.flag;
 }
 
@@ -92,7 +92,8 @@ TEST(DelimiterFlags, DefaultDelimitersInTheWesternPage) {
     EXPECT_TRUE(delimiters.starts_with(L"\t!\"#$%&()*+,-./:;<=>?@[\\]^_`{|}~\x7F\x20AC"));
     EXPECT_TRUE(delimiters.ends_with(L"\x00BF\x00D7\x00F7\x00F8"));
     const DelimiterSet set(delimiters);
-    for (const wchar_t c : std::wstring_view(L"\t-.@\x2019\x2013\x00A0")) EXPECT_TRUE(set.Contains(c)) << int(c);
+    for (const wchar_t c : std::wstring_view(L"\t-.@\x2019\x2013\x00A0"))
+        EXPECT_TRUE(set.Contains(c)) << int(c);
     for (const wchar_t c : std::wstring_view(L"0123456789' azAZ\x00E9\x00FF\x00F9\x017E")) {
         EXPECT_FALSE(set.Contains(c)) << int(c);
     }

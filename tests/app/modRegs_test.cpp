@@ -31,12 +31,12 @@ TEST_F(ModRegs, KeysAndDefaults) {
         const wchar_t* key;
         const wchar_t* value;
     } defaults[] = {
-        {L"Confirmation", L""},   {L"SuggFromMain", L"0"},   {L"CustomDic", L"CUSTOM.DIC"},
-        {L"ScoreBox", L"0"},      {L"IgnoreWebs", L"1"},     {L"IgnoreUCase", L"1"},
-        {L"IgnoreNumbers", L"1"}, {L"SortBy", L"0"},         {L"ClipType", L"0"},
-        {L"CheckClip", L"0"},     {L"SetClip", L"0"},        {L"SaveBack", L"0"},
-        {L"OpenSave", L"0"},      {L"RemainOpen", L"0"},     {L"OpenWOptions", L"0"},
-        {L"ScoreValue", L"80"},   {L"Diversity", L"2"},      {L"ExtraDiversity", L"0"},
+        {L"Confirmation", L""},   {L"SuggFromMain", L"0"}, {L"CustomDic", L"CUSTOM.DIC"},
+        {L"ScoreBox", L"0"},      {L"IgnoreWebs", L"1"},   {L"IgnoreUCase", L"1"},
+        {L"IgnoreNumbers", L"1"}, {L"SortBy", L"0"},       {L"ClipType", L"0"},
+        {L"CheckClip", L"0"},     {L"SetClip", L"0"},      {L"SaveBack", L"0"},
+        {L"OpenSave", L"0"},      {L"RemainOpen", L"0"},   {L"OpenWOptions", L"0"},
+        {L"ScoreValue", L"80"},   {L"Diversity", L"2"},    {L"ExtraDiversity", L"0"},
         {L"PrefTab", L"0"},       {L"Language", L""},
     };
     const Settings settings = LoadSettings(state_);
@@ -143,16 +143,21 @@ TEST_F(ModRegs, CustomDictionaryLists) {
         {"no section", "", {L"CUSTOM.DIC"}, L"CUSTOM.DIC"},
         {"empty section", "[Dictionarys]\r\n", {L"CUSTOM.DIC"}, L"CUSTOM.DIC"},
         {"in order", "[Dictionarys]\r\n0=B.DIC\r\n1=A.DIC\r\n", {L"B.DIC", L"A.DIC"}, L"MY.DIC"},
-        {"file order, not key order", "[Dictionarys]\r\n1=B.DIC\r\n0=A.DIC\r\n", {L"B.DIC", L"A.DIC"},
+        {"file order, not key order",
+         "[Dictionarys]\r\n1=B.DIC\r\n0=A.DIC\r\n",
+         {L"B.DIC", L"A.DIC"},
          L"MY.DIC"},
-        {"empty in the middle", "[Dictionarys]\r\n0=A.DIC\r\n1=\r\n2=C.DIC\r\n", {L"A.DIC", L"C.DIC"},
+        {"empty in the middle",
+         "[Dictionarys]\r\n0=A.DIC\r\n1=\r\n2=C.DIC\r\n",
+         {L"A.DIC", L"C.DIC"},
          L"MY.DIC"},
         {"all empty", "[Dictionarys]\r\n0=\r\n1=\r\n", {L"CUSTOM.DIC"}, L"CUSTOM.DIC"},
         {"lines without a name", "[Dictionarys]\r\njunk\r\n0=A.DIC\r\n", {L"A.DIC"}, L"MY.DIC"},
         {"equals sign in the name", "[Dictionarys]\r\n0=A=B.DIC\r\n", {L"A=B.DIC"}, L"MY.DIC"},
     };
     for (const ListCase& row : cases) {
-        WriteBytes(state_.SettingsFile, std::string("[Settings]\r\nCustomDic=MY.DIC\r\n") + row.section);
+        WriteBytes(state_.SettingsFile,
+                   std::string("[Settings]\r\nCustomDic=MY.DIC\r\n") + row.section);
         const Settings settings = LoadSettings(state_);
         EXPECT_EQ(settings.CustomDictionaries, row.names) << row.reason;
         EXPECT_EQ(settings.CustomDic, row.active) << row.reason;

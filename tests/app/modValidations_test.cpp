@@ -55,10 +55,18 @@ struct TextCase {
 
 TEST(ModValidations, CapitalsAndDigits) {
     const TextCase cases[] = {
-        {L"", 0, 0},      {L"NASA", 1, 0}, {L"NaSA", 0, 0},          {L"nasa", 0, 0},
-        {L"B2", 1, 1},    {L"x9", 0, 1},   {L"123", 1, 1},           {L"-", 1, 0},
-        {L"\x00C9T\x00C9", 1, 0},          {L"\x00E9T\x00C9", 0, 0}, {L"\x0142", 0, 0},
-        {L"\x0660", 1, 0},  // an Arabic digit is none of 0 to 9
+        {L"", 0, 0},
+        {L"NASA", 1, 0},
+        {L"NaSA", 0, 0},
+        {L"nasa", 0, 0},
+        {L"B2", 1, 1},
+        {L"x9", 0, 1},
+        {L"123", 1, 1},
+        {L"-", 1, 0},
+        {L"\x00C9T\x00C9", 1, 0},
+        {L"\x00E9T\x00C9", 0, 0},
+        {L"\x0142", 0, 0},
+        {L"\x0660", 1, 0},            // an Arabic digit is none of 0 to 9
         {L"STRA\x00DF\x0045", 1, 0},  // sharp s has no single upper form
     };
     for (const TextCase& row : cases) {

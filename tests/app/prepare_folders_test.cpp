@@ -16,8 +16,10 @@ TEST(PrepareFolders, MakesTheTreeUnderAGivenFolder) {
     state.DataFolder = folder.Folder() / "not" / "there" / "yet";
     state.LocaleOverride = 1031;
     PrepareFolders(state);
-    EXPECT_THAT(ListFolders(state.DataFolder), ElementsAre(L"Dictionarys", L"Resources", L"Saves", L"Sounds"));
-    EXPECT_THAT(ListFolders(state.DataFolder / "Dictionarys"), ElementsAre(L"1031", L"1033", L"Custom"));
+    EXPECT_THAT(ListFolders(state.DataFolder),
+                ElementsAre(L"Dictionarys", L"Resources", L"Saves", L"Sounds"));
+    EXPECT_THAT(ListFolders(state.DataFolder / "Dictionarys"),
+                ElementsAre(L"1031", L"1033", L"Custom"));
     EXPECT_THAT(ListFolders(state.DataFolder / "Resources"), ElementsAre(L"1031", L"1033"));
     EXPECT_EQ(state.LanguageId, L"1031");
     EXPECT_EQ(state.SettingsFile, state.DataFolder / "Wordhawk.ini");

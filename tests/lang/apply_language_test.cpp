@@ -66,7 +66,8 @@ class FakeForm : public Form {
 
 FormItem Item(std::wstring caption, std::wstring tag, std::wstring tool_tip = {},
               std::wstring description = {}) {
-    return {std::move(caption), std::move(tag), std::move(tool_tip), std::move(description), false, {}};
+    return {std::move(caption),     std::move(tag), std::move(tool_tip),
+            std::move(description), false,          {}};
 }
 
 struct CaptionCase {
@@ -192,9 +193,9 @@ TEST(ClearFormTexts, EmptiesEverything) {
     FakeForm form;
     form.tag = L"1";
     form.controls.push_back(std::make_unique<BareControl>());
-    const std::vector<std::wstring> types = {L"Menu",  L"TabStrip",      L"Toolbar",      L"ListView",
-                                             L"Label", L"CommandButton", L"OptionButton", L"PictureBox",
-                                             L"Image"};
+    const std::vector<std::wstring> types = {L"Menu",         L"TabStrip",   L"Toolbar",
+                                             L"ListView",     L"Label",      L"CommandButton",
+                                             L"OptionButton", L"PictureBox", L"Image"};
     std::vector<FakeControl*> controls;
     for (const std::wstring& type : types) {
         FakeControl& control = form.Add(type);

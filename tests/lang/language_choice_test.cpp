@@ -27,7 +27,9 @@ class LanguageChoice : public testing::Test {
     std::wstring Stored() const {
         return modSect::ReadSetting(L"Settings", L"Language", L"none", state_.SettingsFile);
     }
-    Path Resources(std::wstring_view name) const { return folder_ / L"Resources" / PathFromText(name); }
+    Path Resources(std::wstring_view name) const {
+        return folder_ / L"Resources" / PathFromText(name);
+    }
     void Install(std::wstring_view name, const std::string& bytes) {
         test::WriteBytes(Resources(name), bytes);
     }
@@ -49,7 +51,8 @@ TEST_F(LanguageChoice, EmptySettingMeansTheSystemsLanguage) {
     EXPECT_EQ(state_.HelpFile, TextFromPath(folder_.Folder()) + L"\\Wordhawk.chm::/German.txt");
     EXPECT_EQ(Stored(), L"1031");
     EXPECT_EQ(modLoadRes::LoadResText(state_, 115), L"Abbrechen");
-    EXPECT_EQ(test::ReadBytes(state_.LanguageFile), "[Wordhawk]\r\n115=Abbrechen\r\n") << "not generated anew";
+    EXPECT_EQ(test::ReadBytes(state_.LanguageFile), "[Wordhawk]\r\n115=Abbrechen\r\n")
+        << "not generated anew";
 }
 
 TEST_F(LanguageChoice, MissingFileIsGeneratedFromTheBuiltInTexts) {

@@ -38,7 +38,8 @@ TEST(Texts, LanguageFileReplacesBuiltInTexts) {
     EXPECT_EQ(LoadResText(state, 115), L"Cancel") << "file missing";
     test::WriteBytes(state.LanguageFile,
                      "[Other]\r\n115=wrong\r\n[WORDHAWK]\r\n115=Abbrechen\r\n0116=x\r\n"
-                     "177=\r\n188= &Optionen \r\n300=neu\r\n121=" + std::string(300, 'a') + "\r\n");
+                     "177=\r\n188= &Optionen \r\n300=neu\r\n121=" +
+                         std::string(300, 'a') + "\r\n");
     EXPECT_EQ(LoadResText(state, 115, L"<", L">"), L"<Abbrechen>");
     EXPECT_EQ(LoadResText(state, 114), L"C&ust.") << "key missing";
     EXPECT_EQ(LoadResText(state, 116), BuiltInText(116)) << "keys have no leading zeros";
@@ -54,11 +55,11 @@ TEST(Texts, LanguageNames) {
         int locale;
         const wchar_t* name;
     } cases[] = {
-        {1031, L"German"},    {5127, L"German"},   {2064, L"Italian"}, {1062, L"Latin"},
-        {1050, L"English"},   {1053, L"English"},  {2057, L"English"}, {20490, L"Spanish"},
-        {21514, L"English"},  {1025, L"Arabic"},   {2049, L"English"}, {16385, L"Arabic"},
-        {6156, L"English"},   {5132, L"French"},   {2070, L"Portuguese"}, {1058, L"Ukrainian"},
-        {0, L"English"},      {-1, L"English"},    {1057, L"Indonesian"}, {2068, L"Norwegian"},
+        {1031, L"German"},   {5127, L"German"},  {2064, L"Italian"},    {1062, L"Latin"},
+        {1050, L"English"},  {1053, L"English"}, {2057, L"English"},    {20490, L"Spanish"},
+        {21514, L"English"}, {1025, L"Arabic"},  {2049, L"English"},    {16385, L"Arabic"},
+        {6156, L"English"},  {5132, L"French"},  {2070, L"Portuguese"}, {1058, L"Ukrainian"},
+        {0, L"English"},     {-1, L"English"},   {1057, L"Indonesian"}, {2068, L"Norwegian"},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(LanguageName(row.locale, Want::EnglishName), row.name) << row.locale;
@@ -67,8 +68,8 @@ TEST(Texts, LanguageNames) {
 }
 
 TEST(Texts, WholeNumbersAndOtherTexts) {
-    for (const wchar_t* text : {L"", L" ", L"abc", L"&188", L"188a", L"a188", L"1 8", L"1.5", L"-", L"+",
-                                L"0x1F", L"4294967296", L"99999999999999999999"}) {
+    for (const wchar_t* text : {L"", L" ", L"abc", L"&188", L"188a", L"a188", L"1 8", L"1.5", L"-",
+                                L"+", L"0x1F", L"4294967296", L"99999999999999999999"}) {
         EXPECT_FALSE(WholeNumber(text)) << Path(text);
     }
     EXPECT_EQ(WholeNumber(L"188"), 188);

@@ -40,11 +40,14 @@ TEST(Files, FoldersAreNoFiles) {
 
 TEST(Files, ListsAreSortedByUpperCaseAndFiltered) {
     const test::TempDir folder;
-    for (const wchar_t* name : {L"b.DIC", L"a.dic", L"_x.dic", L"C.Dic", L"d.dic2", L"e.txt", L"dic"}) {
+    for (const wchar_t* name :
+         {L"b.DIC", L"a.dic", L"_x.dic", L"C.Dic", L"d.dic2", L"e.txt", L"dic"}) {
         WriteBytes(folder / name, "");
     }
-    for (const wchar_t* name : {L"1036", L"1033", L"sub.dic"}) ASSERT_TRUE(MakeFolder(folder / name));
-    EXPECT_THAT(ListFiles(folder.Folder(), L".dic"), ElementsAre(L"a.dic", L"b.DIC", L"C.Dic", L"_x.dic"));
+    for (const wchar_t* name : {L"1036", L"1033", L"sub.dic"})
+        ASSERT_TRUE(MakeFolder(folder / name));
+    EXPECT_THAT(ListFiles(folder.Folder(), L".dic"),
+                ElementsAre(L"a.dic", L"b.DIC", L"C.Dic", L"_x.dic"));
     EXPECT_THAT(ListFolders(folder.Folder()), ElementsAre(L"1033", L"1036", L"sub.dic"));
     EXPECT_THAT(ListFiles(folder / L"none", L".dic"), ElementsAre());
 }

@@ -17,12 +17,23 @@ struct Case {
 
 TEST(LocaleIds, AnsiPages) {
     const Case cases[] = {
-        {1033, 1252, "English"},   {1045, 1250, "Polish"},   {1049, 1251, "Russian"},
-        {1032, 1253, "Greek"},     {1055, 1254, "Turkish"},  {1037, 1255, "Hebrew"},
-        {1025, 1256, "Arabic"},    {1062, 1257, "Latvian"},  {1066, 1258, "Vietnamese"},
-        {1054, 874, "Thai"},       {2057, 1252, "British"},  {2074, 1252, "unlisted"},
-        {1041, 1252, "Japanese is multi-byte"},              {1081, 1252, "Hindi has no page"},
-        {0, 1252, "no locale"},    {-5, 1252, "nonsense"},   {9242, 1250, "Serbian, Latin"},
+        {1033, 1252, "English"},
+        {1045, 1250, "Polish"},
+        {1049, 1251, "Russian"},
+        {1032, 1253, "Greek"},
+        {1055, 1254, "Turkish"},
+        {1037, 1255, "Hebrew"},
+        {1025, 1256, "Arabic"},
+        {1062, 1257, "Latvian"},
+        {1066, 1258, "Vietnamese"},
+        {1054, 874, "Thai"},
+        {2057, 1252, "British"},
+        {2074, 1252, "unlisted"},
+        {1041, 1252, "Japanese is multi-byte"},
+        {1081, 1252, "Hindi has no page"},
+        {0, 1252, "no locale"},
+        {-5, 1252, "nonsense"},
+        {9242, 1250, "Serbian, Latin"},
     };
     for (const Case& row : cases) EXPECT_EQ(AnsiPageOfLocale(row.locale), row.page) << row.reason;
 }

@@ -33,7 +33,8 @@ TEST(ReplaceFile, NamesOutsideTheAnsiPage) {
     const Path file = folder / L"\x4e01 \x00E9\x0142.dic";
     ASSERT_TRUE(ReplaceFileContents(file, "x"));
     EXPECT_EQ(*ReadWholeFile(file), "x");
-    EXPECT_EQ(ListFiles(folder.Folder(), L".DIC"), std::vector<std::wstring>{L"\x4e01 \x00E9\x0142.dic"});
+    EXPECT_EQ(ListFiles(folder.Folder(), L".DIC"),
+              std::vector<std::wstring>{L"\x4e01 \x00E9\x0142.dic"});
 }
 
 TEST(ReplaceFile, ReadOnlyFileIsRefused) {

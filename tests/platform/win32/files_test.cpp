@@ -43,7 +43,8 @@ TEST(WindowsFiles, FileInUseIsNamedAndKept) {
     const test::TempDir folder;
     const Path file = folder / L"a.dic";
     WriteBytes(file, "old");
-    const HANDLE user = CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    const HANDLE user =
+        CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(user, INVALID_HANDLE_VALUE);
     const Result<void> result = ReplaceFileContents(file, "new");
     CloseHandle(user);

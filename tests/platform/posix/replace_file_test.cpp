@@ -56,7 +56,8 @@ TEST(PosixReplaceFile, LeftoversOfACrashAreStrangers) {
     const test::TempDir folder;
     // The next names that this process would choose, taken already.
     for (int i = 1; i <= 60; ++i) {
-        const std::string name = ".wordhawk-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp";
+        const std::string name =
+            ".wordhawk-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp";
         WriteBytes(folder.Folder() / name, "left");
     }
     EXPECT_TRUE(ReplaceFileContents(folder / L"a.dic", "new"));

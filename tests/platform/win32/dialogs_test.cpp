@@ -19,7 +19,8 @@ class Presser {
     explicit Presser(int button)
         : thread_([this, button, dialogs_thread = GetCurrentThreadId()] {
               while (!stop_) {
-                  EnumThreadWindows(dialogs_thread, &Presser::Remember, reinterpret_cast<LPARAM>(this));
+                  EnumThreadWindows(dialogs_thread, &Presser::Remember,
+                                    reinterpret_cast<LPARAM>(this));
                   if (const HWND dialog = std::exchange(dialog_, nullptr)) {
                       wchar_t title[100] = {};
                       // A dialog that is just closing has lost its caption already.
@@ -63,7 +64,8 @@ class WindowsDialogs : public testing::Test {
         request_.filter = kFilter;
         request_.title = L"Pick one";
     }
-    static constexpr std::wstring_view kFilter{L"Text (*.txt)\0*.txt\0Rich text (*.rtf)\0*.rtf", 42};
+    static constexpr std::wstring_view kFilter{L"Text (*.txt)\0*.txt\0Rich text (*.rtf)\0*.rtf",
+                                               42};
     test::TempDir folder_;
     modCDlg::Request request_;
     std::wstring name_ = L"old name";
