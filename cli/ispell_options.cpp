@@ -40,6 +40,8 @@ bool IsIspellCommandLine(const std::vector<std::string>& arguments) {
         } else if (argument.size() == 2 && argument[0] == '-' &&
                    kWithValue.find(argument[1]) != std::string_view::npos) {
             ++i;
+        } else if (argument == "pipe") {
+            return true;  // the same by its own name
         } else if (argument.empty() || argument[0] != '-' || argument == "-" || argument == "--" ||
                    argument == "--help" || argument == "-h") {
             return false;  // a command, or nothing of ispell's
@@ -52,13 +54,18 @@ ParsedCommandLine ParseIspellCommandLine(const std::vector<std::string>& argumen
     std::vector<std::string> own;  // what our own parser is to read
     std::vector<std::string> files;
     std::string mode;
+    bool help = false;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
         if (TakesNextArgument(argument)) {
             own.push_back(argument);
             if (i + 1 < arguments.size()) own.push_back(arguments[++i]);
         } else if (IsMode(argument)) {
-            if (mode.empty()) mode = argument == "-A" ? "-a" : argument;
+            if (mode.empty()) mode = argument;
+        } else if (argument == "pipe" && mode.empty()) {
+            mode = argument;
+        } else if (argument == "--help" || argument == "-h") {
+            help = true;
         } else if (argument.starts_with("--")) {
             const bool is_own = argument == "--no-install" || argument.starts_with("--data=") ||
                                 argument.starts_with("--locale=") ||
@@ -80,6 +87,7 @@ ParsedCommandLine ParseIspellCommandLine(const std::vector<std::string>& argumen
         own.insert(own.end(), files.begin(), files.end());
     } else {
         own.emplace_back("pipe");
+        if (help) own.emplace_back("--help");
     }
     return ParseCommandLine(own);
 }

@@ -252,6 +252,7 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     CLI::App app(
         "Wordhawk finds words that its dictionaries do not know, and suggests better ones.",
         "wordhawk-cli");
+    app.allow_windows_style_options(false);  // "/x" is a path on every system
     app.require_subcommand(1);
     app.fallthrough();
     app.get_formatter()->column_width(28);
@@ -262,7 +263,6 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     AddDictionaryCommands(app, options);
     CLI::App* const pipe =
         AddCommand(app, "pipe", "Speak the line protocol of ispell -a, for editors (also: -a)");
-    pipe->allow_extras();
     pipe->footer(
         "Examples:\n  echo '^Ths is a tset' | wordhawk-cli pipe\n"
         "  emacs --eval '(setq ispell-program-name \"wordhawk-cli\")'");

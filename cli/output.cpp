@@ -24,11 +24,15 @@ void Output::Flush() {
 }
 
 std::string MessageLine(std::string_view text) {
-    return "wordhawk-cli: " + std::string(text) + "\n";
+    std::string line = "wordhawk-cli: " + std::string(text);
+    for (char& c : line) {
+        if (static_cast<unsigned char>(c) < 0x20) c = ' ';  // one message, one line
+    }
+    return line + '\n';
 }
 
 std::string MessageLine(std::string_view subject, std::string_view text) {
-    return "wordhawk-cli: " + std::string(subject) + ": " + std::string(text) + "\n";
+    return MessageLine(std::string(subject) + ": " + std::string(text));
 }
 
 std::string MessageLine(const Error& error) {

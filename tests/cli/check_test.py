@@ -1,0 +1,187 @@
+"""Scenarios of the check command."""
+
+import json
+import random
+
+from cli_support import CliTest
+
+
+class Check(CliTest):
+    def places(self, text):
+        """(line, column, word) of each line of output about the file 't'."""
+        found = []
+        for line in text.splitlines():
+            name, row, column, rest = line.split(":", 3)
+            self.assertEqual(name, "t")
+            found.append((int(row), int(column), rest.strip().split(" -> ")[0]))
+        return found
+
+    def test_prints_place_word_and_suggestions(self):
+        self.write("t", "This is a recieve test\n")
+        self.assertEqual(self.run_cli("check", "t", code=1), "t:1:11: recieve -> receive (86%)\n")
+
+    def test_is_quiet_about_a_text_without_unknown_words(self):
+        self.write("t", "Hello world, this is the dog's line. HELLO 123 www.xqz.org")
+        self.assertEqual(self.run_cli("check", "t"), "")
+        self.assertEqual(self.run_cli("check", stdin=b""), "")
+
+    def test_reads_every_encoding_and_line_end(self):
+        text = "This café wrold\nlien of héllo\n\nthe 'tset'"
+        expected = [(1, 11, "wrold"), (2, 1, "lien"), (2, 9, "héllo"), (4, 6, "tset")]
+        contents = [mark + text.replace("\n", line_end).encode(encoding)
+                    for encoding, mark in [("utf-8", b""), ("utf-8", b"\xef\xbb\xbf"), ("utf-16-le", b"\xff\xfe"),
+                                           ("utf-16-be", b"\xfe\xff"), ("cp1252", b"")]
+                    for line_end in ["\n", "\r\n", "\r"]]
+        names = [f"f{i}" for i in range(len(contents))]
+        for name, content in zip(names, contents):
+            self.write(name, content)
+        lines = self.run_cli("check", *names, code=1).splitlines()
+        for i, name in enumerate(names):
+            mine = [line.replace(name, "t", 1) for line in lines if line.startswith(name + ":")]
+            self.assertEqual(self.places("\n".join(mine)), expected, contents[i])
+        for content in contents[1::3]:
+            piped = self.run_cli("check", "-", stdin=content, code=1)
+            self.assertEqual(self.places(piped.replace("<stdin>", "t")), expected, content)
+
+    def test_counts_columns_in_characters(self):
+        self.write("t", "😀 wrold\n\u0301\tthe 😀😀 helo")
+        self.assertEqual(self.places(self.run_cli("check", "t", code=1)), [(1, 3, "wrold"), (2, 10, "helo")])
+
+    def test_keeps_the_spelling_of_the_document(self):
+        self.write("t", "WRold Wrold wrold")
+        self.assertEqual([p[2] for p in self.places(self.run_cli("check", "t", code=1))],
+                         ["WRold", "Wrold", "wrold"])
+        self.assertEqual(self.run_cli("check", "--list", "t", code=1), "wrold\n")
+        self.assertEqual(self.run_cli("check", "--words", "t"), "WRold\nWrold\nwrold\n")
+        self.assertEqual(self.run_cli("-l", stdin=b"WRold Wrold wrold"), "WRold\nWrold\nwrold\n")
+
+    def test_lists_each_word_once_over_all_files(self):
+        self.write("t", "zeta helo zeta")
+        self.write("u", "helo eta\nZETA Zeta")
+        self.assertEqual(self.run_cli("check", "--list", "t", "u", code=1), "zeta\nhelo\neta\n")
+
+    def test_reads_rich_text_by_name_and_by_content(self):
+        rtf = rb"{\rtf1\ansi{\fonttbl{\f0 Arial;}}Hello \b wro\b0 ld\par caf\'e9 the xq\u233?z}"
+        expected = [(1, 7, "wrold"), (2, 10, "xqéz")]
+        self.write("t.rtf", rtf)
+        out = self.run_cli("check", "t.rtf", code=1)
+        self.assertEqual(self.places(out.replace("t.rtf:", "t:")), expected)
+        self.write("t", rtf)
+        self.assertEqual(self.places(self.run_cli("check", "t", code=1)), expected)
+
+    def test_writes_json(self):
+        self.write("ü \\1", "x\nform recieve faxm\tzzqq") if not self.program.is_windows else \
+            self.write("ü 1", "x\nform recieve faxm\tzzqq")
+        name = "ü 1" if self.program.is_windows else "ü \\1"
+        rows = [json.loads(line) for line in self.run_cli("check", "--json", name, code=1).splitlines()]
+        self.assertEqual(rows[0], {"file": name, "line": 2, "column": 6, "word": "recieve",
+                                   "suggestions": [{"word": "receive", "score": 86}]})
+        self.assertEqual([(s["word"], s["score"]) for s in rows[1]["suggestions"]], [("farm", 99)])
+        self.assertEqual(rows[2]["suggestions"], [])
+        self.assertEqual([list(row) for row in rows], [["file", "line", "column", "word", "suggestions"]] * 3)
+
+    def test_limits_suggestions(self):
+        self.write("t", "hixs")
+        cases = [([], "hits (99%)"), (["--max-suggestions", "1"], "t:1:1: hixs -> hits (99%)\n"),
+                 (["--no-suggestions"], "t:1:1: hixs\n"), (["--set", "ScoreValue=100"], "t:1:1: hixs\n")]
+        for options, expected in cases:
+            self.assertIn(expected, self.run_cli("check", *options, "t", code=1))
+
+    def test_obeys_settings_flags_and_exit_zero(self):
+        self.write("t", "wrold xq9z a-zzy")
+        for options, expected in [([], "wrold\nzzy\n"), (["--set", "IgnoreNumbers=0"], "wrold\nxq9z\nzzy\n"),
+                                  (["--flag", "13=0"], "wrold\na-zzy\n")]:
+            with self.subTest(options=options):
+                self.assertEqual(self.run_cli(*options, "check", "--list", "t", code=1), expected)
+        self.assertEqual(self.run_cli("check", "--list", "--exit-zero", "t"), "wrold\nzzy\n")
+
+    def test_goes_on_after_a_file_that_cannot_be_read(self):
+        self.write("t", "helo")
+        self.write("folder/x", "")
+        done = self.run_raw("check", "missing é.txt", "folder", "t")
+        self.assertEqual(done.returncode, 2)
+        self.assertEqual(done.stderr.decode().splitlines(),
+                         ["wordhawk-cli: missing é.txt: no such file", "wordhawk-cli: folder: is a folder"])
+        self.assertIn("t:1:1: helo", done.stdout.decode())
+
+    def test_checks_several_files_at_once_in_their_order(self):
+        names = []
+        for i in range(12):
+            names.append(f"f{i}.txt")
+            self.write(names[-1], "word recieve\n" * (i * 700 % 5000) + f"zz{'abcdefghijkl'[i]}\n")
+        names.insert(5, "missing")
+        for options in [[], ["--list"], ["--json"], ["--words"]]:
+            one = self.run_raw("check", *options, *names)
+            many = self.run_raw("check", *options, "-j", "4", *names)
+            self.assertEqual(one.returncode, 2)
+            self.assertEqual((one.returncode, one.stdout, one.stderr), (many.returncode, many.stdout, many.stderr))
+
+    def test_finds_places_in_long_texts(self):
+        # Longer than the blocks that texts are read in, so that every kind of cut comes up.
+        random.seed(7)
+        known = ["the", "café", "word", "naïve", "one", "😀", "line"]
+        for encoding in ["utf-8", "cp1252", "utf-16"]:
+            pieces, expected = [], []
+            row = column = 1
+            for _ in range(60_000):
+                word = random.choice(known)
+                if random.random() < 0.02:
+                    word = random.choice(["zzxé", "qqwy"])
+                    expected.append((row, column, word))
+                if word == "😀" and encoding == "cp1252":
+                    word = "–"
+                if random.random() < 0.1:
+                    pieces.append(word + random.choice(["\n", "\r\n", "\r\n", "\r \n"]))
+                    row, column = row + (2 if pieces[-1].endswith("\r \n") else 1), 1
+                else:
+                    pieces.append(word + " ")
+                    column += len(word) + 1
+            content = "".join(pieces).encode(encoding)
+            self.write("t", content)
+            with self.subTest(encoding=encoding):
+                out = self.run_cli("check", "--no-suggestions", "t", code=1)
+                self.assertEqual(self.places(out), expected)
+                piped = self.run_cli("check", "--no-suggestions", stdin=content, code=1)
+                self.assertEqual(piped.replace("<stdin>", "t"), out)
+
+    def test_decides_the_encoding_by_the_whole_text(self):
+        plain = b"the word\n" * 60_000
+        for end, word in [(b"zz\xe9zz", "zzézz"), ("zz\u0142zz".encode(), "zzłzz")]:
+            self.write("t", plain + end)
+            self.assertEqual(self.run_cli("check", "--list", "t", code=1), word + "\n")
+            self.assertEqual(self.run_cli("check", "--list", stdin=plain + end, code=1), word + "\n")
+        # UTF-8 for half a megabyte, then not: the first words are read as ANSI too.
+        self.write("t", "zzé\n".encode() + plain + b"\xe9")
+        self.assertEqual(self.run_cli("check", "--list", "t", code=1), "zzã\n")
+
+    def test_bears_odd_input(self):
+        cases = {
+            "NUL": b"the \0 word\0 helo\0",
+            "lone surrogates": b"\xff\xfe" + b"\x00\xd8 \x00h\x00e\x00l\x00o\x00\x00\xdc",
+            "half a unit": b"\xff\xfeh\x00e\x00l\x00o\x00 ",
+            "mark only": b"\xef\xbb\xbf",
+            "megabyte without a blank": b"x" * 1_000_000 + b" helo",
+            "five megabytes without a blank": b"x" * 5_000_000,
+            "marks inside": "the \ufeffhelo\ufeff word".encode(),
+            "bytes": bytes(range(256)) * 30,
+        }
+        for why, content in cases.items():
+            self.write(why, content)
+        out = self.run_cli("check", "--json", "--no-suggestions", *cases, code=1)
+        rows = [json.loads(line) for line in out.splitlines()]
+        found = {row["file"] for row in rows if "helo" in row["word"]}
+        self.assertEqual(found, {"NUL", "lone surrogates", "half a unit", "megabyte without a blank", "marks inside"})
+
+    def test_takes_file_names_beyond_ascii(self):
+        self.write("Ordner ż/日本 ä.txt", "helo")
+        self.assertIn("Ordner ż/日本 ä.txt:1:1: helo", self.run_cli("check", "Ordner ż/日本 ä.txt", code=1))
+
+    def test_says_when_there_is_no_dictionary(self):
+        empty = self.folder / "empty"
+        done = self.run_raw("check", stdin=b"helo", data=empty)
+        self.assertEqual((done.returncode, done.stdout), (2, b""))
+        self.assertIn("no dictionary is installed for language 1033", done.stderr.decode())
+
+    def test_writes_no_colour_to_a_pipe(self):
+        self.write("t", "helo")
+        self.assertNotIn("\x1b", self.run_cli("check", "t", code=1))
