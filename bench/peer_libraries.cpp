@@ -18,14 +18,16 @@
 namespace {
 
 bool IsLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) >= 0x80;
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
+           static_cast<unsigned char>(c) >= 0x80;
 }
 
 bool IsInnerApostrophe(const std::string& text, std::size_t i) {
     return text[i] == '\'' && i + 1 < text.size() && IsLetter(text[i + 1]);
 }
 
-std::size_t CountUnknown(const std::string& text, const std::function<bool(const std::string&)>& knows) {
+std::size_t CountUnknown(const std::string& text,
+                         const std::function<bool(const std::string&)>& knows) {
     std::size_t unknown = 0;
     std::string word;
     for (std::size_t i = 0; i < text.size();) {
@@ -52,10 +54,14 @@ int main(int argc, char** argv) {
     const std::string text((std::istreambuf_iterator<char>(std::cin)), {});
     if (std::string_view(argv[1]) == "hunspell") {
         Hunspell checker(argv[2], argv[3]);
-        std::printf("%zu\n", CountUnknown(text, [&](const std::string& word) { return checker.spell(word); }));
+        std::printf("%zu\n", CountUnknown(text, [&](const std::string& word) {
+                        return checker.spell(word);
+                    }));
     } else {
         nuspell::Dictionary checker;
         checker.load_aff_dic(argv[2]);
-        std::printf("%zu\n", CountUnknown(text, [&](const std::string& word) { return checker.spell(word); }));
+        std::printf("%zu\n", CountUnknown(text, [&](const std::string& word) {
+                        return checker.spell(word);
+                    }));
     }
 }

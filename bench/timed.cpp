@@ -29,7 +29,8 @@ int main(int argc, char** argv) {
     };
     std::FILE* const result = std::fopen(argv[1], "w");
     if (!result) return 2;
-    std::fprintf(result, "%.6f %.6f %ld %d\n", wall.count(), seconds(usage.ru_utime) + seconds(usage.ru_stime),
-                 usage.ru_maxrss, WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status));
+    std::fprintf(result, "%.6f %.6f %ld %d\n", wall.count(),
+                 seconds(usage.ru_utime) + seconds(usage.ru_stime), usage.ru_maxrss,
+                 WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status));
     return std::fclose(result) == 0 ? 0 : 2;
 }
