@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstring>
 #include <string>
+#include <string_view>
 
 namespace wordhawk {
 namespace {
@@ -27,6 +28,17 @@ class Template {
   private:
     alignas(DWORD) std::array<std::byte, 256> bytes_{};
 };
+
+/// Keeps the system from laying the controls out when the monitor changes. Looked up by name: the
+/// import library has it not.
+void LayOutOurselves(HWND dialog) {
+    using Function = BOOL(WINAPI*)(HWND, DIALOG_DPI_CHANGE_BEHAVIORS, DIALOG_DPI_CHANGE_BEHAVIORS);
+    const FARPROC found =
+        GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetDialogDpiChangeBehavior");
+    if (found == nullptr) return;
+    reinterpret_cast<Function>(reinterpret_cast<void*>(found))(dialog, DDC_DISABLE_ALL,
+                                                               DDC_DISABLE_ALL);
+}
 
 FontHandle MakeFont(int dpi, LONG extra_weight) {
     NONCLIENTMETRICSW metrics{};
@@ -101,8 +113,7 @@ void Dialog::RegisterOwnClass(const Look& look) const {
 void Dialog::Begin(HWND window) {
     handle_ = window;
     SetWindowLongPtrW(window, DWLP_USER, reinterpret_cast<LONG_PTR>(this));
-    // We lay the controls out ourselves when the monitor changes.
-    SetDialogDpiChangeBehavior(window, DDC_DISABLE_ALL, DDC_DISABLE_ALL);
+    LayOutOurselves(window);
     MakeFonts();
     OnInit();
     ApplyFonts();
@@ -119,7 +130,12 @@ void Dialog::ApplyFonts() {
     EnumChildWindows(
         handle_,
         [](HWND child, LPARAM font) {
-            SendMessageW(child, WM_SETFONT, static_cast<WPARAM>(font), TRUE);
+            wchar_t name[32]{};
+            GetClassNameW(child, name, static_cast<int>(std::size(name)));
+            // To a rich text box a font is a format: it would change the document.
+            if (!std::wstring_view(name).starts_with(L"RICHEDIT")) {
+                SendMessageW(child, WM_SETFONT, static_cast<WPARAM>(font), TRUE);
+            }
             return TRUE;
         },
         reinterpret_cast<LPARAM>(font_.Get()));

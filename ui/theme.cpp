@@ -104,12 +104,16 @@ void Theme::Decorate(HWND form) const {
     DwmSetWindowAttribute(form, kUseImmersiveDarkMode, &dark, sizeof dark);
     EnumChildWindows(
         form,
-        [](HWND child, LPARAM dark_wanted) {
-            SetWindowTheme(child, dark_wanted != 0 ? L"DarkMode_Explorer" : nullptr, nullptr);
+        [](HWND child, LPARAM theme) {
+            reinterpret_cast<const Theme*>(theme)->DecorateControl(child);
             return TRUE;
         },
-        dark);
+        reinterpret_cast<LPARAM>(this));
     RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_FRAME);
+}
+
+void Theme::DecorateControl(HWND control) const {
+    SetWindowTheme(control, Dark() ? L"DarkMode_Explorer" : nullptr, nullptr);
 }
 
 }  // namespace wordhawk

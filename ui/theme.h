@@ -39,6 +39,7 @@ class Theme {
 
     /// Title bar, and scroll bars of the controls, in the theme's kind.
     void Decorate(HWND form) const;
+    void DecorateControl(HWND control) const;
 
   private:
     Kind kind_ = Kind::Light;

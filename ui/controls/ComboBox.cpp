@@ -35,4 +35,9 @@ std::vector<std::wstring> ComboBox::Texts() const {
     return texts;
 }
 
+void ComboBox::SetItemHeight(int pixels) {
+    Send(CB_SETITEMHEIGHT, 0, pixels);
+    Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), pixels);
+}
+
 }  // namespace wordhawk

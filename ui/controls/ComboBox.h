@@ -21,6 +21,9 @@ class ComboBox : public Control {
     /// The first entry equal to `text` without regard to case; -1 when there is none.
     int FindExact(std::wstring_view text) const;
     std::vector<std::wstring> Texts() const;
+    bool DroppedDown() const { return Send(CB_GETDROPPEDSTATE) != 0; }
+    /// Height of an entry, and of the text in the closed box.
+    void SetItemHeight(int pixels);
 
     std::wstring Caption() const override { return {}; }
     void SetCaption(const std::wstring&) override {}

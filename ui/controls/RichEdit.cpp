@@ -72,16 +72,12 @@ void RichEdit::Renew() {
     const HWND old = handle_;
     const bool had_focus = HasFocus();
     const RECT bounds = Bounds();
-    const auto font = static_cast<WPARAM>(SendMessageW(old, WM_GETFONT, 0, 0));
-    Make(where_, MSFTEDIT_CLASS,
-         static_cast<DWORD>(GetWindowLongPtrW(old, GWL_STYLE)) & ~static_cast<DWORD>(WS_VISIBLE),
+    Make(where_, MSFTEDIT_CLASS, static_cast<DWORD>(GetWindowLongPtrW(old, GWL_STYLE)),
          static_cast<DWORD>(GetWindowLongPtrW(old, GWL_EXSTYLE)));
     // Behind the old one: the place in tab order.
     SetWindowPos(handle_, old, bounds.left, bounds.top, bounds.right - bounds.left,
                  bounds.bottom - bounds.top, SWP_NOACTIVATE);
-    Send(WM_SETFONT, font, FALSE);
     SetUp();
-    SetToolTipText(ToolTipText());
     if (had_focus) SetFocus();
     DestroyWindow(old);
 }
@@ -165,7 +161,7 @@ std::wstring RichEdit::FontName() const {
 
 void RichEdit::SetLook(const Look& look) {
     CHARFORMAT2W format = EmptyFormat();
-    format.dwMask = CFM_FACE | CFM_SIZE | CFM_COLOR | CFM_CHARSET;
+    format.dwMask = CFM_FACE | CFM_SIZE | CFM_COLOR | CFM_CHARSET | CFM_BOLD | CFM_ITALIC;
     format.bCharSet = DEFAULT_CHARSET;
     format.yHeight = look.half_points * 10;
     format.dwEffects = look.text ? 0 : CFE_AUTOCOLOR;
@@ -173,7 +169,11 @@ void RichEdit::SetLook(const Look& look) {
     look.face.copy(format.szFaceName, LF_FACESIZE - 1);
     Send(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
     Send(EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
-    Send(EM_SETBKGNDCOLOR, 0, static_cast<LPARAM>(look.background));
+    SetBackground(look.background);
+}
+
+void RichEdit::SetBackground(COLORREF colour) {
+    Send(EM_SETBKGNDCOLOR, 0, static_cast<LPARAM>(colour));
 }
 
 void RichEdit::SetFontName(const std::wstring& face) {

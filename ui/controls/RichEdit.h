@@ -50,9 +50,14 @@ class RichEdit : public Control {
         COLORREF background = 0xFFFFFF;
     };
     void SetLook(const Look& look);
+    void SetBackground(COLORREF colour);
+    /// Sends one of the edit requests of the system (WM_CUT, EM_SETSEL ...).
+    LRESULT Request(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
+        return Send(message, wparam, lparam);
+    }
     /// Another face for the text as a whole.
     void SetFontName(const std::wstring& face);
-    /// Called after each change of the text, whoever makes it, by the form's EN_CHANGE.
+
     std::wstring Caption() const override { return {}; }
     void SetCaption(const std::wstring&) override {}
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ui/new_spell_controls.h"
+
+#include <string>
+
+namespace wordhawk {
+
+/// The line at the foot of the main window: what the last command did. Every command says something
+/// new or clears it, so it never tells of something long gone.
+class StatusLine {
+  public:
+    enum class Undo { None, LastAdd };
+
+    explicit StatusLine(NewSpellControls& controls) : controls_(controls) {}
+
+    /// `undo` offers to take the added word back.
+    void Say(const std::wstring& text, Undo undo = Undo::None);
+    void Clear() { Say({}); }
+
+  private:
+    NewSpellControls& controls_;
+};
+
+}  // namespace wordhawk
