@@ -11,7 +11,6 @@ extern "C" __declspec(dllimport) unsigned __stdcall SetErrorMode(unsigned mode);
 int main(int argc, char** argv) {
 #ifdef _WIN32
     SetErrorMode(0x0001 | 0x0002 | 0x8000);
-    _set_abort_behavior(0, _WRITE_ABORT_MSG | _CALL_REPORTFAULT);
 #endif
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
