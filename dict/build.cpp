@@ -26,7 +26,8 @@ Result<void> ForEachWordOf(const Path& list, const AnsiCodePage& page, Use&& use
     bool at_start = true;
     ForEachLine(*bytes, [&](std::string_view line) {
         std::wstring text = is_utf8 ? FromUtf8(line) : page.Decode(line);
-        if (std::exchange(at_start, false) && is_utf8 && text.starts_with(kByteOrderMark)) text.erase(0, 1);
+        if (std::exchange(at_start, false) && is_utf8 && text.starts_with(kByteOrderMark))
+            text.erase(0, 1);
         const std::wstring word = Lower(Trim(text));
         if (!word.empty()) use(word);
     });
@@ -45,7 +46,8 @@ void ForEachPiece(std::wstring_view word, std::wstring_view delimiters, Use&& us
 /// The entry lines of all lists, by the file that they go to.
 class WordCollection {
   public:
-    explicit WordCollection(const BuildOptions& options) : options_(options), file_of_beginning_(65536) {}
+    explicit WordCollection(const BuildOptions& options)
+        : options_(options), file_of_beginning_(65536) {}
 
     /// To be called before the words are added.
     void Exclude(const std::wstring& word) {
@@ -55,7 +57,8 @@ class WordCollection {
     void Add(const std::wstring& word) {
         AddOne(word);
         if (word.find_first_of(options_.piece_delimiters) == std::wstring::npos) return;
-        ForEachPiece(word, options_.piece_delimiters, [this](std::wstring_view piece) { AddOne(piece); });
+        ForEachPiece(word, options_.piece_delimiters,
+                     [this](std::wstring_view piece) { AddOne(piece); });
     }
 
     std::size_t Skipped() const { return skipped_; }
@@ -93,8 +96,8 @@ Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path
                                     const BuildOptions& options) {
     WordCollection words(options);
     for (const Path& list : options.excluded_lists) {
-        const Result<void> read =
-            ForEachWordOf(list, *options.page, [&](const std::wstring& word) { words.Exclude(word); });
+        const Result<void> read = ForEachWordOf(
+            list, *options.page, [&](const std::wstring& word) { words.Exclude(word); });
         if (!read) return tl::unexpected(read.error());
     }
     for (const Path& list : word_lists) {
@@ -103,13 +106,14 @@ Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path
         if (!read) return tl::unexpected(read.error());
     }
 
-    if (!MakeFolder(output)) return tl::unexpected(Error{L"the output folder cannot be made", output});
+    if (!MakeFolder(output))
+        return tl::unexpected(Error{L"the output folder cannot be made", output});
     BuildReport report{0, 0, words.Skipped()};
     for (const auto& [name, bytes] : words.Files()) {
         const std::string sorted = dictionary_edit::SortedDistinct(bytes, *options.page);
         // Hundreds of files that can be built again are not worth a flush to the disk each.
-        const Result<void> written = ReplaceFileContents(output / PathFromText(name), sorted,
-                                                         Durability::LeftToTheSystem);
+        const Result<void> written =
+            ReplaceFileContents(output / PathFromText(name), sorted, Durability::LeftToTheSystem);
         if (!written) return tl::unexpected(written.error());
         report.words += static_cast<std::size_t>(std::count(sorted.begin(), sorted.end(), '\n'));
         ++report.files;

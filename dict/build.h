@@ -20,7 +20,8 @@ struct BuildOptions {
 struct BuildReport {
     std::size_t words = 0;
     std::size_t files = 0;
-    /// Words left out because the page cannot hold them, or they hold a comma or a control character.
+    /// Words left out because the page cannot hold them, or they hold a comma or a control
+    /// character.
     std::size_t skipped = 0;
 };
 

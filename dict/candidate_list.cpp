@@ -26,7 +26,8 @@ std::int32_t NumberInField(std::string_view field) {
 /// Takes the lines of a file one by one.
 class CandidateReader {
   public:
-    CandidateReader(std::string_view bytes, const AnsiCodePage& page) : bytes_(bytes), page_(page) {}
+    CandidateReader(std::string_view bytes, const AnsiCodePage& page)
+        : bytes_(bytes), page_(page) {}
 
     void TakeLine(std::string_view line) {
         const std::size_t comma = line.find(',');
@@ -60,7 +61,8 @@ class CandidateReader {
 
     void Append(std::string_view word, std::int32_t key) {
         const auto offset = static_cast<std::size_t>(word.data() - bytes_.data());
-        if (word.size() > kLongestCandidate || offset > std::numeric_limits<std::uint32_t>::max()) return;
+        if (word.size() > kLongestCandidate || offset > std::numeric_limits<std::uint32_t>::max())
+            return;
         list_.offsets.push_back(static_cast<std::uint32_t>(offset));
         list_.lengths.push_back(static_cast<std::uint16_t>(word.size()));
         list_.keys.push_back(key);

@@ -21,9 +21,11 @@ Path FolderOf(const Path& path) {
 }  // namespace
 
 Result<bool> ChangeDictionaryFile(const Path& path, const FileEdit& edit) {
-    if (IsFolder(path)) return tl::unexpected(Error{L"a folder cannot be changed as a dictionary", path});
+    if (IsFolder(path))
+        return tl::unexpected(Error{L"a folder cannot be changed as a dictionary", path});
     const Path folder = FolderOf(path);
-    if (!MakeFolder(folder)) return tl::unexpected(Error{L"the dictionary's folder cannot be made", folder});
+    if (!MakeFolder(folder))
+        return tl::unexpected(Error{L"the dictionary's folder cannot be made", folder});
     const Result<SingleWriter> lock = SingleWriter::Acquire(folder);
     if (!lock) return tl::unexpected(lock.error());
 

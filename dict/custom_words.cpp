@@ -25,12 +25,13 @@ Result<void> CheckTarget(DictionaryStore& store, AddTarget target) {
     if (target != AddTarget::ActiveCustom) return {};
     store.ActiveCustomPath();
     const Result<std::wstring> name = CustomDictionaryName(store.CurrentSettings().CustomDic);
-    if (!name && !IsPlainFileName(store.CurrentSettings().CustomDic)) return tl::unexpected(name.error());
+    if (!name && !IsPlainFileName(store.CurrentSettings().CustomDic))
+        return tl::unexpected(name.error());
     return {};
 }
 
-Result<bool> AddEntries(DictionaryStore& store, const Path& file, const std::vector<std::string>& entries,
-                        SortMoment moment) {
+Result<bool> AddEntries(DictionaryStore& store, const Path& file,
+                        const std::vector<std::string>& entries, SortMoment moment) {
     return ChangeDictionaryFile(file, [&](std::string_view bytes) {
         return WithEntries(bytes, entries, store.Page(), moment);
     });
@@ -40,7 +41,9 @@ Result<bool> AddEntries(DictionaryStore& store, const Path& file, const std::vec
 class AddingDisplay {
   public:
     AddingDisplay(const ProgramState& state, std::size_t count, Progress& progress)
-        : progress_(progress), count_(std::to_wstring(count)), is_shown_(count >= kFewestWordsWithProgress) {
+        : progress_(progress),
+          count_(std::to_wstring(count)),
+          is_shown_(count >= kFewestWordsWithProgress) {
         using modLoadRes::LoadResText;
         if (!is_shown_) return;
         progress_.Show(LoadResText(state, kTextPleaseWait, {}, L"..."));
@@ -76,12 +79,14 @@ struct Batch {
 /// Sorts the words of a list into batches by their file, in the order of the list.
 class BatchPlan {
   public:
-    BatchPlan(DictionaryStore& store, std::span<const std::wstring> words, AddTarget target, Path& path) {
+    BatchPlan(DictionaryStore& store, std::span<const std::wstring> words, AddTarget target,
+              Path& path) {
         std::unordered_map<Path::string_type, std::size_t> known;
         Path shared;
         if (target != AddTarget::Main) shared = AdditionFile(store, {}, target, path);
         for (const std::wstring& word : words) {
-            const Path file = target == AddTarget::Main ? AdditionFile(store, word, target, path) : shared;
+            const Path file =
+                target == AddTarget::Main ? AdditionFile(store, word, target, path) : shared;
             const auto [at, is_new] = known.emplace(file.native(), batches_.size());
             if (is_new) batches_.push_back({file, {}, 0});
             ++batches_[at->second].words_to_come;
@@ -97,7 +102,9 @@ class BatchPlan {
     std::vector<std::size_t> batch_of_word_;
 };
 
-std::string_view WithoutLineEnd(std::string_view line) { return line.substr(0, line.size() - 2); }
+std::string_view WithoutLineEnd(std::string_view line) {
+    return line.substr(0, line.size() - 2);
+}
 
 }  // namespace
 

@@ -18,7 +18,8 @@ class LineOrder {
   public:
     explicit LineOrder(const AnsiCodePage& page) {
         for (unsigned byte = 0; byte < 256; ++byte) {
-            code_[byte] = static_cast<std::uint16_t>(page.ToUnicode(static_cast<unsigned char>(byte)));
+            code_[byte] =
+                static_cast<std::uint16_t>(page.ToUnicode(static_cast<unsigned char>(byte)));
         }
     }
 
@@ -33,7 +34,8 @@ class LineOrder {
     /// The first four codes as one number: settles most comparisons of a sort.
     std::uint64_t Prefix(std::string_view line) const {
         std::uint64_t prefix = 0;
-        for (std::size_t i = 0; i < 4; ++i) prefix = (prefix << 16) | (i < line.size() ? Code(line[i]) : 0u);
+        for (std::size_t i = 0; i < 4; ++i)
+            prefix = (prefix << 16) | (i < line.size() ? Code(line[i]) : 0u);
         return prefix;
     }
 
@@ -48,7 +50,8 @@ class LineOrder {
         std::sort(keyed.begin(), keyed.end(), [this](const Keyed& a, const Keyed& b) {
             return a.prefix != b.prefix ? a.prefix < b.prefix : (*this)(a.line, b.line);
         });
-        std::transform(keyed.begin(), keyed.end(), lines.begin(), [](const Keyed& k) { return k.line; });
+        std::transform(keyed.begin(), keyed.end(), lines.begin(),
+                       [](const Keyed& k) { return k.line; });
     }
 
   private:
@@ -74,7 +77,8 @@ std::string Joined(const Lines& lines) {
 /// The lines of a file that is being added to, and which of the new entries it already holds.
 class Addition {
   public:
-    Addition(std::string_view bytes, const std::vector<std::string>& entry_lines, const LineOrder& order)
+    Addition(std::string_view bytes, const std::vector<std::string>& entry_lines,
+             const LineOrder& order)
         : order_(order) {
         for (const std::string& entry : entry_lines) present_.emplace(WithoutLineEnd(entry), 0);
         bool first = true;

@@ -37,7 +37,8 @@ const char* BehindNextLineFeed(const char* at, const char* end) {
             if (zero != 0) return at + std::countr_zero(zero) / 8 + 1;
         }
     }
-    const auto* feed = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)));
+    const auto* feed =
+        static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)));
     return feed != nullptr ? feed + 1 : end;
 }
 
@@ -66,7 +67,8 @@ bool DictionaryFile::Contains(std::string_view word, EntryForms forms) const {
 bool DictionaryFile::ContainsHashed(std::string_view word, std::uint32_t hash,
                                     EntryForms forms) const {
     if (!indexed_) BuildIndex();
-    if (slots_.empty()) return bytes_.size() > kMostIndexedBytes && FoundInBytes(bytes_, word, forms);
+    if (slots_.empty())
+        return bytes_.size() > kMostIndexedBytes && FoundInBytes(bytes_, word, forms);
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t i = hash & mask; slots_[i].place != 0; i = (i + 1) & mask) {
         if (slots_[i].hash != hash || !Holds(slots_[i], word)) continue;

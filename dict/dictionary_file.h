@@ -17,9 +17,9 @@ enum class EntryForms { KeyedOnly, KeyedAndBare };
 
 /// All candidates of one file in file order, with what the search filters on held in columns of
 /// their own so that most words are passed over without touching their bytes. A line's first field
-/// is the candidate (none when it is empty, or longer than 65,535 bytes); its key is its own when it
-/// has one field, the second field when it has two, that of the line before when it has more; where
-/// that gives 0, its own again.
+/// is the candidate (none when it is empty, or longer than 65,535 bytes); its key is its own when
+/// it has one field, the second field when it has two, that of the line before when it has more;
+/// where that gives 0, its own again.
 struct CandidateList {
     std::vector<std::uint32_t> offsets;
     std::vector<std::uint16_t> lengths;
@@ -40,7 +40,8 @@ struct CandidateList {
 /// One bit per byte value (folded to 64): equal bytes set equal bits.
 std::uint64_t LetterMask(std::string_view bytes);
 
-/// The mask of a candidate that is not wholly in lower case: comparing letters says nothing about it.
+/// The mask of a candidate that is not wholly in lower case: comparing letters says nothing about
+/// it.
 inline constexpr std::uint64_t kUnknownLetters = ~std::uint64_t{0};
 
 /// A dictionary file in memory: its bytes, and an index of its entries built when first asked. Not
@@ -111,7 +112,8 @@ namespace dictionary_edit {
 /// is not seen.
 bool HasEntryBelowFirstLine(std::string_view bytes, std::string_view entry_line);
 
-/// When lines are sorted while entries are added: the first line, which hides its entry, depends on it.
+/// When lines are sorted while entries are added: the first line, which hides its entry, depends on
+/// it.
 enum class SortMoment { AfterLastEntry, AfterEachEntry };
 
 /// Adds entry lines (each ending in CR LF) in order, each unless it is already there, and sorts.

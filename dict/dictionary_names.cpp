@@ -21,14 +21,16 @@ bool IsDeviceName(std::wstring_view name) {
     if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
     // COM and LPT with a digit, also with one of the three raised digits of the ANSI page.
     return stem.size() == 4 && (stem.starts_with(L"com") || stem.starts_with(L"lpt")) &&
-           std::wstring_view(L"0123456789\u00B9\u00B2\u00B3").find(stem[3]) != std::wstring_view::npos;
+           std::wstring_view(L"0123456789\u00B9\u00B2\u00B3").find(stem[3]) !=
+               std::wstring_view::npos;
 }
 
 /// Why `name` cannot be a file name of its own; empty when it can.
 std::wstring_view Objection(std::wstring_view name) {
     if (name.empty()) return L"a dictionary needs a name";
     if (name.size() > kLongestName) return L"the name of the dictionary is too long";
-    if (std::any_of(name.begin(), name.end(), [](wchar_t c) { return c < 32 || (c >= 127 && c < 160); })) {
+    if (std::any_of(name.begin(), name.end(),
+                    [](wchar_t c) { return c < 32 || (c >= 127 && c < 160); })) {
         return L"the name of a dictionary cannot hold control characters";
     }
     if (name.find_first_of(kForbidden) != std::wstring_view::npos) {
@@ -43,12 +45,15 @@ std::wstring_view Objection(std::wstring_view name) {
 
 }  // namespace
 
-bool IsPlainFileName(std::wstring_view name) { return Objection(name).empty(); }
+bool IsPlainFileName(std::wstring_view name) {
+    return Objection(name).empty();
+}
 
 Result<std::wstring> CustomDictionaryName(std::wstring_view name) {
     std::wstring full(name);
-    const bool has_extension = name.size() >= kExtension.size() &&
-                               EqualIgnoringCase(name.substr(name.size() - kExtension.size()), kExtension);
+    const bool has_extension =
+        name.size() >= kExtension.size() &&
+        EqualIgnoringCase(name.substr(name.size() - kExtension.size()), kExtension);
     std::wstring_view objection = Objection(full);
     if (objection.empty() && !has_extension) {
         full += kExtension;

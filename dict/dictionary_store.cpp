@@ -56,13 +56,15 @@ bool DictionaryStore::IsInCustomFiles(std::string_view lower_bytes) {
 }
 
 void DictionaryStore::SyncWithState() {
-    if (table_page_ == state_.CodePage && table_folder_ == state_.LanguageDictFolder.native()) return;
+    if (table_page_ == state_.CodePage && table_folder_ == state_.LanguageDictFolder.native())
+        return;
     for (std::unique_ptr<Row>& row : by_first_bytes_) row.reset();
     table_page_ = state_.CodePage;
     table_folder_ = state_.LanguageDictFolder.native();
 }
 
-const DictionaryFile& DictionaryStore::OpenMainFileOfBytes(unsigned char first, unsigned char second) {
+const DictionaryFile& DictionaryStore::OpenMainFileOfBytes(unsigned char first,
+                                                           unsigned char second) {
     SyncWithState();
     const std::wstring beginning = {Page().ToUnicode(first), Page().ToUnicode(second)};
     const DictionaryFile& file = LoadMain(MainPathFor(beginning)).file;
@@ -112,7 +114,8 @@ const std::wstring& DictionaryStore::CustomName(std::size_t i) {
 }
 
 Path DictionaryStore::CustomPath(std::wstring_view name) const {
-    return IsPlainFileName(name) ? state_.CustomFolder() / PathFromText(name) : state_.CustomFolder();
+    return IsPlainFileName(name) ? state_.CustomFolder() / PathFromText(name)
+                                 : state_.CustomFolder();
 }
 
 Path DictionaryStore::ActiveCustomPath() {
@@ -122,13 +125,16 @@ Path DictionaryStore::ActiveCustomPath() {
 
 void DictionaryStore::SyncCustomSet() {
     if (settings_.CustomDic.empty()) settings_.CustomDic = kDefaultCustomName;
-    if (settings_.CustomDictionaries.empty()) settings_.CustomDictionaries = {std::wstring(kDefaultCustomName)};
+    if (settings_.CustomDictionaries.empty())
+        settings_.CustomDictionaries = {std::wstring(kDefaultCustomName)};
     const std::vector<std::wstring>& names = settings_.CustomDictionaries;
     if (custom_data_folder_ != state_.DataFolder.native()) {
         custom_.clear();
         custom_data_folder_ = state_.DataFolder.native();
     }
-    const auto is_named = [](const Custom& custom, const std::wstring& name) { return custom.name == name; };
+    const auto is_named = [](const Custom& custom, const std::wstring& name) {
+        return custom.name == name;
+    };
     if (std::equal(custom_.begin(), custom_.end(), names.begin(), names.end(), is_named)) return;
     std::vector<Custom> custom;
     for (const std::wstring& name : names) {

@@ -35,8 +35,8 @@ class DictionaryStore {
     void SyncWithState();
 
     /// The main file for lower-cased words that begin with these two ANSI bytes (equal bytes for a
-    /// one-letter word), opened when first asked for. Only for first characters within the page. The
-    /// file stays where it is for the life of the store; ReloadFile changes what it holds.
+    /// one-letter word), opened when first asked for. Only for first characters within the page.
+    /// The file stays where it is for the life of the store; ReloadFile changes what it holds.
     const DictionaryFile& MainFileOfBytes(unsigned char first, unsigned char second) {
         const Row* const row = by_first_bytes_[first].get();
         const DictionaryFile* const file = row != nullptr ? (*row)[second] : nullptr;
@@ -61,7 +61,8 @@ class DictionaryStore {
 
     /// Drops every custom dictionary's bytes and reads the files again.
     void ReloadCustomDictionaries();
-    /// Reads one file again if it is cached (main) or listed (custom): called after it was rewritten.
+    /// Reads one file again if it is cached (main) or listed (custom): called after it was
+    /// rewritten.
     void ReloadFile(const Path& path);
 
     ProgramState& State() { return state_; }

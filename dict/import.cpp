@@ -34,7 +34,8 @@ class KnownWords {
     bool Hold(const std::wstring& word) const {
         if (remember_ && taken_.contains(word)) return true;
         if (skip_main_) {
-            return store_.IsWordInDictionaries(word, skip_custom_ ? Scope::MainAndCustom : Scope::MainOnly);
+            return store_.IsWordInDictionaries(
+                word, skip_custom_ ? Scope::MainAndCustom : Scope::MainOnly);
         }
         return skip_custom_ && store_.IsWordInCustomDictionaries(word);
     }
@@ -60,11 +61,13 @@ bool IsActive(DictionaryStore& store, const Path& file) {
 
 class ImportDisplay {
   public:
-    ImportDisplay(const ProgramState& state, std::size_t lines, Progress& progress) : progress_(progress) {
+    ImportDisplay(const ProgramState& state, std::size_t lines, Progress& progress)
+        : progress_(progress) {
         using modLoadRes::LoadResText;
         progress_.Show(LoadResText(state, kTextImporting));
-        progress_.SetCaption(LoadResText(state, kTextChecking, {}, L" (" + std::to_wstring(lines) + L") ") +
-                             LoadResText(state, kTextWords, {}, L"..."));
+        progress_.SetCaption(
+            LoadResText(state, kTextChecking, {}, L" (" + std::to_wstring(lines) + L") ") +
+            LoadResText(state, kTextWords, {}, L"..."));
         progress_.SetRange(lines);
     }
     ~ImportDisplay() { progress_.Hide(); }
@@ -92,8 +95,8 @@ Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& f
     const std::string bytes = ReadWholeFile(source).value_or(std::string());
     if (bytes.empty()) {
         ui.ShowMessage(modLoadRes::LoadResText(state, kTextHoldsNoWords),
-                       modLoadRes::LoadResText(state, kTextDictionaryIsEmpty), MessageIcon::Exclamation,
-                       MessageButtons::Ok);
+                       modLoadRes::LoadResText(state, kTextDictionaryIsEmpty),
+                       MessageIcon::Exclamation, MessageButtons::Ok);
         return 0;
     }
     std::vector<std::string_view> lines;
@@ -117,7 +120,8 @@ Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& f
     }
     if (entries.empty()) return 0;
 
-    // One rewrite gives what a rewrite after each word would: the words are sorted in as if it were.
+    // One rewrite gives what a rewrite after each word would: the words are sorted in as if it
+    // were.
     const Result<bool> written = ChangeDictionaryFile(target, [&](std::string_view old) {
         return dictionary_edit::WithEntries(old, entries, store.Page(),
                                             dictionary_edit::SortMoment::AfterEachEntry);

@@ -18,7 +18,9 @@ TEST(BuildDictionary, WritesSortedFilesFromListsOfBothEncodings) {
     TempDir temp;
     const Path utf8 = temp / L"utf8.txt";
     const Path ansi = temp / L"ansi.txt";
-    WriteBytes(utf8, "\xEF\xBB\xBFHello\nhelp\r\n  hello  \n\n\xC3\x89t\xC3\xA9\n\xE2\x82\xAC\nhello's\na\n");
+    WriteBytes(
+        utf8,
+        "\xEF\xBB\xBFHello\nhelp\r\n  hello  \n\n\xC3\x89t\xC3\xA9\n\xE2\x82\xAC\nhello's\na\n");
     WriteBytes(ansi, "\xE9tat\r\n3d\r\nHELP\r\n");
     const std::array lists = {utf8, ansi};
     const Result<BuildReport> report = BuildDictionary(lists, temp / L"out" / "1036", {});
@@ -28,7 +30,8 @@ TEST(BuildDictionary, WritesSortedFilesFromListsOfBothEncodings) {
     EXPECT_EQ(report->skipped, 0u);
     const Path out = temp / L"out" / "1036";
     EXPECT_EQ(ReadBytes(out / "he_.dic"), "hello's,72420\r\nhello,72400\r\nhelp,72410\r\n");
-    EXPECT_EQ(ReadBytes(out / PathFromText(L"\u00E9t_.dic")), "\xE9tat,20130\r\n\xE9t\xE9,20130\r\n");
+    EXPECT_EQ(ReadBytes(out / PathFromText(L"\u00E9t_.dic")),
+              "\xE9tat,20130\r\n\xE9t\xE9,20130\r\n");
     EXPECT_EQ(ReadBytes(out / "aa_.dic"), "a,65000\r\n");
     EXPECT_EQ(ReadBytes(out / "_noncase_.dic"), "3d,51300\r\n\x80,12800\r\n");
 }
@@ -50,7 +53,8 @@ TEST(BuildDictionary, LeavesOutWhatIsExcludedOrCannotBeHeld) {
     options.page = &AnsiCodePage::Get(1251);
     options.excluded_lists.clear();
     ASSERT_TRUE(BuildDictionary({&list, 1}, temp / L"cyrillic", options));
-    EXPECT_EQ(ReadBytes(temp / L"cyrillic" / PathFromText(L"\u0434\u0430_.dic")), "\xE4\xE0,19600\r\n");
+    EXPECT_EQ(ReadBytes(temp / L"cyrillic" / PathFromText(L"\u0434\u0430_.dic")),
+              "\xE4\xE0,19600\r\n");
 }
 
 TEST(BuildDictionary, WritesThePiecesOfAWordAsWell) {

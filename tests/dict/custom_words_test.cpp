@@ -14,13 +14,16 @@ using test::FakeProgress;
 using test::ReadBytes;
 using test::WriteBytes;
 
-Path CustomFile(const Dictionaries& data) { return data.state.CustomFolder() / "CUSTOM.DIC"; }
+Path CustomFile(const Dictionaries& data) {
+    return data.state.CustomFolder() / "CUSTOM.DIC";
+}
 
 std::map<std::wstring, std::string> AllFiles(const Dictionaries& data) {
     std::map<std::wstring, std::string> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(data.folder.Folder())) {
         if (EqualIgnoringCase(TextFromPath(entry.path().extension()), L".dic")) {
-            files[TextFromPath(entry.path().lexically_relative(data.folder.Folder()))] = ReadBytes(entry.path());
+            files[TextFromPath(entry.path().lexically_relative(data.folder.Folder()))] =
+                ReadBytes(entry.path());
         }
     }
     return files;
@@ -32,7 +35,8 @@ TEST(AddWord, GoesToItsTarget) {
     ASSERT_TRUE(AddWordToDictionary(data.store, L"Hello", AddTarget::ActiveCustom, path));
     EXPECT_EQ(ReadBytes(CustomFile(data)), "hello,72400\r\n");
     EXPECT_TRUE(path.empty());
-    EXPECT_TRUE(data.store.IsWordInCustomDictionaries(L"hello")) << "custom dictionaries are reloaded";
+    EXPECT_TRUE(data.store.IsWordInCustomDictionaries(L"hello"))
+        << "custom dictionaries are reloaded";
 
     ASSERT_TRUE(AddWordToDictionary(data.store, L"Zebra", AddTarget::ExplicitFile, path));
     EXPECT_EQ(path, CustomFile(data)) << "the caller sees the file that was meant";
@@ -45,7 +49,8 @@ TEST(AddWord, GoesToItsTarget) {
     EXPECT_FALSE(data.store.IsWordInDictionaries(L"x-ray", Scope::MainOnly));
     ASSERT_TRUE(AddWordToDictionary(data.store, L"X-ray", AddTarget::Main, path));
     EXPECT_EQ(ReadBytes(data.state.LanguageDictFolder / "x_.dic"), "x-ray,88260\r\n");
-    EXPECT_FALSE(data.store.IsWordInDictionaries(L"x-ray", Scope::MainOnly)) << "the main cache is the caller's";
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"x-ray", Scope::MainOnly))
+        << "the main cache is the caller's";
     data.store.ReloadFile(AdditionFile(data.store, L"X-ray", AddTarget::Main, path));
     EXPECT_TRUE(data.store.IsWordInDictionaries(L"x-ray", Scope::MainOnly));
 }
@@ -74,7 +79,8 @@ TEST(AddWord, NeverTakesAnUnreadableFileForEmpty) {
     Dictionaries data;
     std::filesystem::create_directories(CustomFile(data) / "inside");
     Path path;
-    const Result<void> added = AddWordToDictionary(data.store, L"hello", AddTarget::ActiveCustom, path);
+    const Result<void> added =
+        AddWordToDictionary(data.store, L"hello", AddTarget::ActiveCustom, path);
     ASSERT_FALSE(added);
     EXPECT_EQ(added.error().where, CustomFile(data));
     EXPECT_TRUE(std::filesystem::is_directory(CustomFile(data) / "inside"));
@@ -97,11 +103,13 @@ TEST(AddWords, ShowsProgressFromTenWordsOn) {
     for (const std::size_t count : {9u, 10u}) {
         Dictionaries data;
         std::vector<std::wstring> words;
-        for (std::size_t i = 0; i < count; ++i) words.push_back(L"word" + std::wstring(1, static_cast<wchar_t>('a' + i)));
+        for (std::size_t i = 0; i < count; ++i)
+            words.push_back(L"word" + std::wstring(1, static_cast<wchar_t>('a' + i)));
         FakeProgress progress;
         Path path;
         data.state.StopFlag = true;
-        ASSERT_TRUE(AddWordsToDictionary(data.store, words, AddTarget::ActiveCustom, path, progress));
+        ASSERT_TRUE(
+            AddWordsToDictionary(data.store, words, AddTarget::ActiveCustom, path, progress));
         EXPECT_FALSE(data.state.StopFlag) << "cleared at the start";
         EXPECT_EQ(DictionaryFile(ReadBytes(CustomFile(data))).CountEntries(), count);
         EXPECT_EQ(progress.yields, static_cast<int>(count)) << "before each word";
@@ -129,7 +137,8 @@ TEST(AddWords, StopsWhenAskedAndKeepsWhatWasAdded) {
         Path path;
         ASSERT_TRUE(AddWordsToDictionary(data.store, words, target, path, progress));
         std::size_t added = 0;
-        for (const auto& [name, bytes] : AllFiles(data)) added += DictionaryFile(bytes).CountEntries();
+        for (const auto& [name, bytes] : AllFiles(data))
+            added += DictionaryFile(bytes).CountEntries();
         EXPECT_EQ(added, 3u);
         EXPECT_TRUE(data.state.StopFlag);
     }
@@ -150,10 +159,12 @@ TEST(AddWords, ToMainFilesGivesWhatWordByWordGives) {
         Dictionaries together;
         Dictionaries one_by_one;
         std::vector<std::wstring> words;
-        for (std::size_t i = random.Below(14); i > 0; --i) words.push_back(random.Word(L"abAB'", 1, 3));
+        for (std::size_t i = random.Below(14); i > 0; --i)
+            words.push_back(random.Word(L"abAB'", 1, 3));
         for (std::size_t i = random.Below(4); i > 0; --i) {
             const std::wstring word = Lower(random.Word(L"ab", 2, 3));
-            const std::string bytes = random.OneIn(2) ? EntryLine(word, *together.state.CodePage) : "ba\r\nab,1\n";
+            const std::string bytes =
+                random.OneIn(2) ? EntryLine(word, *together.state.CodePage) : "ba\r\nab,1\n";
             WriteBytes(together.store.MainPathFor(word), bytes);
             WriteBytes(one_by_one.store.MainPathFor(word), bytes);
         }
@@ -185,7 +196,8 @@ TEST(RemoveWord, TakesItFromTheFirstDictionaryThatHasIt) {
     EXPECT_EQ(ReadBytes(CustomFile(data)), "zebra,90160\r\nbare\r\n");
 
     for (const std::wstring_view word : {L"bare", L"unknown", L"", L"\u65E5"}) {
-        EXPECT_EQ(RemoveWordFromDictionaries(data.store, word).value(), Path()) << testing::PrintToString(word);
+        EXPECT_EQ(RemoveWordFromDictionaries(data.store, word).value(), Path())
+            << testing::PrintToString(word);
     }
     EXPECT_EQ(ReadBytes(CustomFile(data)), "zebra,90160\r\nbare\r\n");
     EXPECT_EQ(ReadBytes(data.state.CustomFolder() / "other.dic"), "zebra,90160\r\n");
@@ -203,7 +215,9 @@ TEST(RemoveWord, FromOneCustomDictionary) {
     const Path other = data.state.CustomFolder() / "other.dic";
     EXPECT_TRUE(RemoveWordFromCustomDictionary(data.store, L"hello", other).value());
     EXPECT_EQ(ReadBytes(other), "");
-    EXPECT_FALSE(RemoveWordFromCustomDictionary(data.store, L"hello", data.folder / L"none" / "x.dic").value());
+    EXPECT_FALSE(
+        RemoveWordFromCustomDictionary(data.store, L"hello", data.folder / L"none" / "x.dic")
+            .value());
     EXPECT_FALSE(std::filesystem::exists(data.folder / L"none")) << "looking makes nothing";
 }
 

@@ -1,5 +1,4 @@
 #include "dict/dictionary_file.h"
-
 #include "tests/support/random_text.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +9,9 @@ namespace {
 using dictionary_edit::SortMoment;
 using test::Random;
 
-const AnsiCodePage& Page() { return AnsiCodePage::Get(1252); }
+const AnsiCodePage& Page() {
+    return AnsiCodePage::Get(1252);
+}
 
 std::vector<std::string> LinesOf(const std::string& bytes) {
     std::vector<std::string> lines;
@@ -38,8 +39,8 @@ std::string AppendedAndSorted(std::string bytes, const std::string& appended) {
 
 bool StandsBelowFirstLine(const std::string& bytes, const std::string& entry_line) {
     const std::vector<std::string> lines = LinesOf(bytes);
-    return !lines.empty() &&
-           std::count(lines.begin() + 1, lines.end(), entry_line.substr(0, entry_line.size() - 2)) > 0;
+    return !lines.empty() && std::count(lines.begin() + 1, lines.end(),
+                                        entry_line.substr(0, entry_line.size() - 2)) > 0;
 }
 
 std::optional<std::string> EntryByEntry(std::string bytes, const std::vector<std::string>& entries,
@@ -73,12 +74,20 @@ TEST(DictionaryEdit, AddsEntriesInOrder) {
         {"b,1\nd,2\n", {"d,2\r\n"}, std::nullopt, "a line that ends in LF is a line"},
         {"b,1\r\nd,2", {"c,3\r\n"}, "b,1\r\nc,3\r\nd,2\r\n", "no two words are glued together"},
         {"b,1\r\nd,2", {"d,2\r\n"}, std::nullopt, "the last line without its end is there too"},
-        {"d,2\r\n\r\n\r\nb,1\r\n", {"c,3\r\n"}, "b,1\r\nc,3\r\nd,2\r\n", "sorted, without empty lines"},
-        {"apple,65140\r\n", {"apple's,65142\r\n"}, "apple's,65142\r\napple,65140\r\n",
+        {"d,2\r\n\r\n\r\nb,1\r\n",
+         {"c,3\r\n"},
+         "b,1\r\nc,3\r\nd,2\r\n",
+         "sorted, without empty lines"},
+        {"apple,65140\r\n",
+         {"apple's,65142\r\n"},
+         "apple's,65142\r\napple,65140\r\n",
          "the whole line counts: an apostrophe comes before a comma"},
         {"b,1\r\n", {"B,1\r\n"}, "B,1\r\nb,1\r\n", "case counts"},
         {"b,1\r\nd\r\n", {"d,2\r\n"}, "b,1\r\nd\r\nd,2\r\n", "a bare word is another line"},
-        {"\x80,1\r\n", {"\xE9,2\r\n"}, "\xE9,2\r\n\x80,1\r\n", "by character, not by byte: the euro sign is U+20AC"},
+        {"\x80,1\r\n",
+         {"\xE9,2\r\n"},
+         "\xE9,2\r\n\x80,1\r\n",
+         "by character, not by byte: the euro sign is U+20AC"},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(dictionary_edit::WithEntries(c.before, c.entries, Page()), c.after) << c.reason;
@@ -86,7 +95,8 @@ TEST(DictionaryEdit, AddsEntriesInOrder) {
 }
 
 TEST(DictionaryEdit, FirstLineHidesItsEntryOnceMoreAfterEachSort) {
-    const std::vector<std::string> entries = {"b,1\r\n", "a,1\r\n", "a,1\r\n", "a,1\r\n", "b,1\r\n"};
+    const std::vector<std::string> entries = {"b,1\r\n", "a,1\r\n", "a,1\r\n", "a,1\r\n",
+                                              "b,1\r\n"};
     EXPECT_EQ(dictionary_edit::WithEntries("", entries, Page(), SortMoment::AfterEachEntry),
               "a,1\r\na,1\r\nb,1\r\n");
     EXPECT_EQ(dictionary_edit::WithEntries("", entries, Page(), SortMoment::AfterLastEntry),
@@ -108,7 +118,8 @@ TEST(DictionaryEdit, AddsAsAppendingAndSortingDoes) {
         // Half of the files are in order, as those that the program wrote.
         if (random.OneIn(2)) bytes = AppendedAndSorted(bytes, "");
         std::vector<std::string> entries;
-        for (std::size_t i = random.Below(6); i > 0; --i) entries.push_back(random.Pick(words) + ",1\r\n");
+        for (std::size_t i = random.Below(6); i > 0; --i)
+            entries.push_back(random.Pick(words) + ",1\r\n");
         for (const SortMoment moment : {SortMoment::AfterLastEntry, SortMoment::AfterEachEntry}) {
             const auto expected = EntryByEntry(bytes, entries, moment);
             unchanged += !expected;
@@ -116,7 +127,8 @@ TEST(DictionaryEdit, AddsAsAppendingAndSortingDoes) {
                 << testing::PrintToString(bytes) << testing::PrintToString(entries);
         }
         for (const std::string& entry : entries) {
-            ASSERT_EQ(dictionary_edit::HasEntryBelowFirstLine(bytes, entry), StandsBelowFirstLine(bytes, entry));
+            ASSERT_EQ(dictionary_edit::HasEntryBelowFirstLine(bytes, entry),
+                      StandsBelowFirstLine(bytes, entry));
         }
     }
     EXPECT_GT(unchanged, 100);
@@ -161,7 +173,8 @@ TEST(SortLines, SortsTheRangeOnlyAndRefusesOthers) {
 TEST(EntryLine, IsRefusedWhereItCouldNotBeReadBack) {
     EXPECT_EQ(CheckedEntryLine(L"Hello", Page()).value(), "hello,72400\r\n");
     EXPECT_EQ(CheckedEntryLine(L"\u00C9T\u00C9", Page()).value(), "\xE9t\xE9,20130\r\n");
-    for (const std::wstring_view word : {L"", L"a,b", L"a\r\nb", L"a\rb", L"a\tb", L"\u65E5", L"\x2019\x0119"}) {
+    for (const std::wstring_view word :
+         {L"", L"a,b", L"a\r\nb", L"a\rb", L"a\tb", L"\u65E5", L"\x2019\x0119"}) {
         EXPECT_FALSE(CheckedEntryLine(word, Page())) << testing::PrintToString(word);
     }
     EXPECT_FALSE(CheckedEntryLine(std::wstring_view(L"a\0b", 3), Page()));

@@ -36,7 +36,8 @@ TEST(DictionaryFile, FindsEntriesByTheirPatterns) {
         {"x,1\r\nbee\r\nbee,66000\r\n", "bee", true, true, "bare and keyed"},
         {"x,1\r\na,b,3\r\n", "a", true, true, "more fields do not matter"},
         {"x,1\r\na,b,3\r\n", "a,b", true, true, "a word with a comma matches across fields"},
-        {"x,1\r\na\r\nb,2\r\n", "a\r\nb", true, true, "a word with a line break matches across lines"},
+        {"x,1\r\na\r\nb,2\r\n", "a\r\nb", true, true,
+         "a word with a line break matches across lines"},
         {"", "bee", false, false, "an empty file"},
         {",1\r\n", "", true, true, "an entry without a word"},
         {"x,1\r\n\r\n", "", false, true, "an empty line is a bare empty word"},
@@ -50,7 +51,8 @@ TEST(DictionaryFile, FindsEntriesByTheirPatterns) {
 
 bool FoundByBytes(const std::string& bytes, const std::string& word, EntryForms forms) {
     return bytes.find("\n" + word + ",") != std::string::npos || bytes.find(word + ",") == 0 ||
-           (forms == EntryForms::KeyedAndBare && bytes.find("\n" + word + "\r") != std::string::npos);
+           (forms == EntryForms::KeyedAndBare &&
+            bytes.find("\n" + word + "\r") != std::string::npos);
 }
 
 TEST(DictionaryFile, IndexAnswersAsTheByteSearch) {
@@ -58,7 +60,8 @@ TEST(DictionaryFile, IndexAnswersAsTheByteSearch) {
     const std::string alphabet("ab,\r\n\0", 6);
     int hits = 0;
     for (int round = 0; round < 4000; ++round) {
-        const std::vector<std::string> pieces = {"a", "b", "ab", ",", "\r\n", "\n", "\r", std::string(1, '\0'), ",1\r\n"};
+        const std::vector<std::string> pieces = {
+            "a", "b", "ab", ",", "\r\n", "\n", "\r", std::string(1, '\0'), ",1\r\n"};
         std::string bytes;
         for (std::size_t i = random.Below(60); i > 0; --i) bytes += random.Pick(pieces);
         const DictionaryFile file{bytes};
@@ -94,17 +97,20 @@ struct Listed {
 };
 
 /// What a search that comes with `carried` from the dictionary before sees.
-std::vector<Listed> CandidatesOf(const DictionaryFile& file, std::int32_t carried, const AnsiCodePage& page) {
+std::vector<Listed> CandidatesOf(const DictionaryFile& file, std::int32_t carried,
+                                 const AnsiCodePage& page) {
     const CandidateList& list = file.Candidates(page);
     std::vector<Listed> seen;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const bool inherits = i < list.leading_inherits && carried != 0;
-        seen.push_back({file.Bytes().substr(list.offsets[i], list.lengths[i]), inherits ? carried : list.keys[i]});
+        seen.push_back({file.Bytes().substr(list.offsets[i], list.lengths[i]),
+                        inherits ? carried : list.keys[i]});
     }
     return seen;
 }
 
-std::vector<Listed> CandidatesLineByLine(const std::string& bytes, std::int32_t key, const AnsiCodePage& page) {
+std::vector<Listed> CandidatesLineByLine(const std::string& bytes, std::int32_t key,
+                                         const AnsiCodePage& page) {
     std::vector<Listed> seen;
     for (std::size_t from = 0; from < bytes.size();) {
         const std::size_t feed = bytes.find('\n', from);
@@ -131,19 +137,23 @@ std::vector<Listed> CandidatesLineByLine(const std::string& bytes, std::int32_t 
 
 TEST(CandidateList, TakesKeysFromTheirFields) {
     const DictionaryFile file(
-        "three,fields,first\r\nown\r\nstored,12345\r\nzero,0\r\n,skipped\r\nwild,x1\r\nthree,9,9\r\n\r\nblank, 77 \r\nlast\r");
+        "three,fields,first\r\nown\r\nstored,12345\r\nzero,0\r\n,skipped\r\nwild,x1\r\nthree,9,"
+        "9\r\n\r\nblank, 77 \r\nlast\r");
     const AnsiCodePage& page = AnsiCodePage::Get(1252);
-    const std::vector<Listed> expected = {{"three", 84600}, {"own", 79500},  {"stored", 12345}, {"zero", 90600},
-                                          {"wild", 87430},  {"three", 87430}, {"blank", 77},    {"last\r", 76230}};
+    const std::vector<Listed> expected = {{"three", 84600}, {"own", 79500},   {"stored", 12345},
+                                          {"zero", 90600},  {"wild", 87430},  {"three", 87430},
+                                          {"blank", 77},    {"last\r", 76230}};
     EXPECT_EQ(CandidatesOf(file, 0, page), expected);
-    EXPECT_EQ(CandidatesOf(file, 555, page)[0], (Listed{"three", 555})) << "carried over from the file before";
+    EXPECT_EQ(CandidatesOf(file, 555, page)[0], (Listed{"three", 555}))
+        << "carried over from the file before";
     EXPECT_EQ(file.Candidates(page).last_key, 76230);
 }
 
 TEST(CandidateList, EqualsTheLineByLineForm) {
     Random random(6);
-    const std::vector<std::string> pieces = {"a",  "bo", "ced", "A",    ",",     ",",  ",,",   "\r\n", "\r\n",
-                                             "\n", "\r", "0",   "12345", "-7",   " ",  "\xE9", "99999999999"};
+    const std::vector<std::string> pieces = {"a",     "bo",   "ced",  "A",    ",",          ",",
+                                             ",,",    "\r\n", "\r\n", "\n",   "\r",         "0",
+                                             "12345", "-7",   " ",    "\xE9", "99999999999"};
     for (int round = 0; round < 5000; ++round) {
         std::string bytes;
         for (std::size_t i = random.Below(50); i > 0; --i) bytes += random.Pick(pieces);
@@ -153,7 +163,8 @@ TEST(CandidateList, EqualsTheLineByLineForm) {
             const std::vector<Listed> expected = CandidatesLineByLine(bytes, carried, page);
             ASSERT_EQ(CandidatesOf(file, carried, page), expected) << testing::PrintToString(bytes);
             if (carried == 0) {
-                ASSERT_EQ(file.Candidates(page).last_key, expected.empty() ? 0 : expected.back().key);
+                ASSERT_EQ(file.Candidates(page).last_key,
+                          expected.empty() ? 0 : expected.back().key);
             }
         }
     }
@@ -165,8 +176,10 @@ TEST(CandidateList, MaskHoldsTheLettersUnlessCaseWouldChangeThem) {
     EXPECT_EQ(list.masks[0], LetterMask("cab"));
     EXPECT_EQ(list.masks[1], kUnknownLetters);
     EXPECT_EQ(list.masks[2], kUnknownLetters);
-    EXPECT_EQ(file.Candidates(AnsiCodePage::Get(1251)).masks[2], kUnknownLetters) << "a capital there too";
-    EXPECT_EQ(file.Candidates(AnsiCodePage::Get(874)).masks[2], LetterMask("\xC9t")) << "no case there";
+    EXPECT_EQ(file.Candidates(AnsiCodePage::Get(1251)).masks[2], kUnknownLetters)
+        << "a capital there too";
+    EXPECT_EQ(file.Candidates(AnsiCodePage::Get(874)).masks[2], LetterMask("\xC9t"))
+        << "no case there";
 }
 
 }  // namespace

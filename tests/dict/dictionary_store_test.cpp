@@ -12,11 +12,15 @@ using test::WriteBytes;
 TEST(DictionaryStore, FindsWordsWithoutRegardToCase) {
     Dictionaries data;
     data.WriteMain({L"hello", L"a", L"3d", L"\u00E9t\u00E9", L"x-ray"});
-    for (const std::wstring_view word : {L"hello", L"Hello", L"HELLO", L"A", L"3D", L"\u00C9t\u00E9", L"X-Ray"}) {
-        EXPECT_TRUE(data.store.IsWordInDictionaries(word, Scope::MainOnly)) << testing::PrintToString(word);
+    for (const std::wstring_view word :
+         {L"hello", L"Hello", L"HELLO", L"A", L"3D", L"\u00C9t\u00E9", L"X-Ray"}) {
+        EXPECT_TRUE(data.store.IsWordInDictionaries(word, Scope::MainOnly))
+            << testing::PrintToString(word);
     }
-    for (const std::wstring_view word : {L"", L"hell", L"ete", L"xray", L"zebra", L"\u65E5", L"'tis"}) {
-        EXPECT_FALSE(data.store.IsWordInDictionaries(word, Scope::MainAndCustom)) << testing::PrintToString(word);
+    for (const std::wstring_view word :
+         {L"", L"hell", L"ete", L"xray", L"zebra", L"\u65E5", L"'tis"}) {
+        EXPECT_FALSE(data.store.IsWordInDictionaries(word, Scope::MainAndCustom))
+            << testing::PrintToString(word);
     }
 }
 
@@ -54,7 +58,8 @@ TEST(DictionaryStore, ReadsAMainFileOnceEvenWhenItIsMissing) {
     EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
     EXPECT_EQ(data.store.MainFileFor(L"hello"), nullptr);
     data.WriteMain({L"hello"});
-    EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly)) << "the disk is not tried again";
+    EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly))
+        << "the disk is not tried again";
     const Path path = data.store.MainPathFor(L"hello");
     data.store.ReloadFile(path);
     EXPECT_TRUE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
@@ -72,7 +77,8 @@ TEST(DictionaryStore, ReloadFindsTheFileUnderAnotherSpellingOfItsPath) {
     data.WriteMain({L"hello"});
     EXPECT_FALSE(data.store.IsWordInDictionaries(L"help", Scope::MainOnly));
     data.WriteMain({L"hello", L"help"});
-    data.store.ReloadFile(data.folder.Folder() / "Dictionarys" / ".." / "Dictionarys" / "1033" / "he_.dic");
+    data.store.ReloadFile(data.folder.Folder() / "Dictionarys" / ".." / "Dictionarys" / "1033" /
+                          "he_.dic");
     EXPECT_TRUE(data.store.IsWordInDictionaries(L"help", Scope::MainOnly));
 }
 
@@ -83,11 +89,13 @@ TEST(DictionaryStore, FilesOfBytesAreThoseOfWords) {
         data.store.SyncWithState();
         for (unsigned first = 0; first < 256; first += 11) {
             for (unsigned second = 1; second < 256; second += 19) {
-                const std::wstring word = {data.state.CodePage->ToUnicode(static_cast<unsigned char>(first)),
-                                           data.state.CodePage->ToUnicode(static_cast<unsigned char>(second))};
+                const std::wstring word = {
+                    data.state.CodePage->ToUnicode(static_cast<unsigned char>(first)),
+                    data.state.CodePage->ToUnicode(static_cast<unsigned char>(second))};
                 const Path path = data.store.MainPathFor(word);
                 if (!std::filesystem::exists(path)) WriteBytes(path, "one,1\r\n");
-                ASSERT_EQ(&data.store.MainFileOfBytes(static_cast<unsigned char>(first), static_cast<unsigned char>(second)),
+                ASSERT_EQ(&data.store.MainFileOfBytes(static_cast<unsigned char>(first),
+                                                      static_cast<unsigned char>(second)),
                           data.store.MainFileFor(word))
                     << number << " " << first << " " << second;
             }
@@ -127,10 +135,12 @@ TEST(DictionaryStore, NamesFromTheSettingsNeverLeaveTheCustomFolder) {
     WriteBytes(data.folder / L"secret.dic", "x,1\r\nsecret,73263\r\n");
     WriteBytes(data.state.CustomFolder() / "sub" / "w.dic", "x,1\r\nsecret,73263\r\n");
     const std::wstring absolute = TextFromPath(data.folder / L"secret.dic");
-    for (const std::wstring& name : {std::wstring(L"../../secret.dic"), std::wstring(L"..\\..\\secret.dic"),
-                                     std::wstring(L"sub/w.dic"), std::wstring(L".."), absolute}) {
+    for (const std::wstring& name :
+         {std::wstring(L"../../secret.dic"), std::wstring(L"..\\..\\secret.dic"),
+          std::wstring(L"sub/w.dic"), std::wstring(L".."), absolute}) {
         data.settings.CustomDictionaries = {name};
-        EXPECT_FALSE(data.store.IsWordInCustomDictionaries(L"secret")) << testing::PrintToString(name);
+        EXPECT_FALSE(data.store.IsWordInCustomDictionaries(L"secret"))
+            << testing::PrintToString(name);
         EXPECT_EQ(data.store.CustomFile(0), nullptr);
         data.settings.CustomDic = name;
         EXPECT_EQ(data.store.ActiveCustomPath(), data.state.CustomFolder());

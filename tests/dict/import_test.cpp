@@ -50,7 +50,8 @@ TEST(ImportDictionary, TakesTheWordsThatAreNewAsTheSwitchesSay) {
         import.WriteCustom(L"CUSTOM.DIC", "widget,87300\r\n");
         import.flags.Set(249, c.skip_main);
         import.flags.Set(250, c.skip_custom);
-        EXPECT_EQ(import.Run("Hello,1\r\n  WIDGET \r\nx\r\n,5\r\nGizmo,71250\r\n"), c.count) << c.reason;
+        EXPECT_EQ(import.Run("Hello,1\r\n  WIDGET \r\nx\r\n,5\r\nGizmo,71250\r\n"), c.count)
+            << c.reason;
         EXPECT_EQ(ReadBytes(import.Target()), c.result) << c.reason;
     }
 }
@@ -66,8 +67,8 @@ TEST(ImportDictionary, MakesNoFileWhenEveryWordIsKnown) {
 TEST(ImportDictionary, ReportsAnEmptyOrUnreadableSource) {
     Import import;
     EXPECT_EQ(import.Run(""), 0);
-    EXPECT_EQ(ImportDictionary(import.store, import.flags, import.folder / L"missing.dic", L"new.dic",
-                               import.progress, import.ui),
+    EXPECT_EQ(ImportDictionary(import.store, import.flags, import.folder / L"missing.dic",
+                               L"new.dic", import.progress, import.ui),
               0);
     ASSERT_EQ(import.ui.shown.size(), 2u);
     for (const FakeUi::Shown& shown : import.ui.shown) {
@@ -125,7 +126,8 @@ int ImportWordByWord(Import& import, const std::vector<std::wstring>& lines) {
         if (word.size() < 2) continue;
         bool known = false;
         if (skip_main) {
-            known = import.store.IsWordInDictionaries(word, skip_custom ? Scope::MainAndCustom : Scope::MainOnly);
+            known = import.store.IsWordInDictionaries(
+                word, skip_custom ? Scope::MainAndCustom : Scope::MainOnly);
         } else if (skip_custom) {
             known = import.store.IsWordInCustomDictionaries(word);
         }
@@ -145,7 +147,8 @@ TEST(ImportDictionary, GivesWhatWordByWordGives) {
         std::string source;
         for (std::size_t i = 1 + random.Below(15); i > 0; --i) {
             lines.push_back(random.Word(L"abA ", 1, 3) + (random.OneIn(3) ? L",1,2" : L""));
-            source += std::string(lines.back().begin(), lines.back().end()) + (random.OneIn(4) ? "\n" : "\r\n");
+            source += std::string(lines.back().begin(), lines.back().end()) +
+                      (random.OneIn(4) ? "\n" : "\r\n");
         }
         const std::size_t switches = random.Below(4);
         const bool is_active = random.OneIn(2);

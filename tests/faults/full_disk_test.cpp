@@ -6,12 +6,12 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <csignal>
 
 namespace wordhawk {
 namespace {
@@ -85,7 +85,8 @@ TEST(FullDisk, AddingGivesAnErrorAndLeavesTheFileWhole) {
     EXPECT_TRUE(ReadBytes(custom / "CUSTOM.DIC") == before);
     ExpectNoFileBut(custom, {"CUSTOM.DIC"});
 
-    EXPECT_TRUE(AddWordToDictionary(data.store, L"small", AddTarget::ActiveCustom, path)) << "what fits is added";
+    EXPECT_TRUE(AddWordToDictionary(data.store, L"small", AddTarget::ActiveCustom, path))
+        << "what fits is added";
     EXPECT_EQ(ReadBytes(custom / "CUSTOM.DIC").size(), before.size() + 13);
 }
 
@@ -97,7 +98,8 @@ TEST(FullDisk, ImportGivesAnErrorAndMakesNoFile) {
     const SmallDisk disk(custom);
     test::FakeProgress progress;
     test::FakeUi ui;
-    EXPECT_FALSE(ImportDictionary(data.store, DelimiterFlagStore(), source, L"new.dic", progress, ui));
+    EXPECT_FALSE(
+        ImportDictionary(data.store, DelimiterFlagStore(), source, L"new.dic", progress, ui));
     ExpectNoFileBut(custom, {});
     EXPECT_EQ(ui.busy_depth, 0);
 }
@@ -128,8 +130,9 @@ TEST(UnreadableFile, IsNeverOverwritten) {
         // The superuser may read everything; somebody else may not.
         if (geteuid() == 0 && setuid(65534) != 0) _exit(3);
         Path path;
-        const bool refused = !AddWordToDictionary(data.store, L"new", AddTarget::ActiveCustom, path) &&
-                             !RemoveWordFromCustomDictionary(data.store, L"hello", {});
+        const bool refused =
+            !AddWordToDictionary(data.store, L"new", AddTarget::ActiveCustom, path) &&
+            !RemoveWordFromCustomDictionary(data.store, L"hello", {});
         _exit(refused ? 0 : 1);
     }
     int status = -1;

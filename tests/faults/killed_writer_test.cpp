@@ -5,13 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <thread>
-
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <chrono>
+#include <thread>
 
 namespace wordhawk {
 namespace {
@@ -56,7 +56,8 @@ TEST(KilledWriter, LeavesTheOldFileOrTheNewOne) {
     const Path file = temp.Folder() / "Dictionarys" / "Custom" / "CUSTOM.DIC";
     std::string unsorted;
     const AnsiCodePage& page = AnsiCodePage::Get(1252);
-    for (int i = 0; i < kWordsBefore; ++i) unsorted += EntryLine(L"word" + std::to_wstring(i), page);
+    for (int i = 0; i < kWordsBefore; ++i)
+        unsorted += EntryLine(L"word" + std::to_wstring(i), page);
     const std::string before = dictionary_edit::SortedDistinct(unsorted, page);
 
     test::Random random(3);
@@ -79,7 +80,8 @@ TEST(KilledWriter, LeavesTheOldFileOrTheNewOne) {
         if (added != std::string::npos) after.erase(added, after.find("\r\n", added + 2) - added);
         ASSERT_TRUE(after == before) << "kill " << kill_number;
     }
-    EXPECT_GT(CountTemporaries(file.parent_path()), 0u) << "no kill came while a file was being written";
+    EXPECT_GT(CountTemporaries(file.parent_path()), 0u)
+        << "no kill came while a file was being written";
 }
 
 }  // namespace

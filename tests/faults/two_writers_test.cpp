@@ -54,7 +54,8 @@ TEST(TwoWriters, LoseNoWord) {
     std::vector<int> exits(prefixes.size(), -1);
     std::vector<std::thread> writers;
     for (std::size_t i = 0; i < prefixes.size(); ++i) {
-        writers.emplace_back([&, i] { exits[i] = std::system(WriterCommand(data.Folder(), prefixes[i]).c_str()); });
+        writers.emplace_back(
+            [&, i] { exits[i] = std::system(WriterCommand(data.Folder(), prefixes[i]).c_str()); });
     }
     for (std::thread& writer : writers) writer.join();
     EXPECT_EQ(exits, (std::vector<int>{0, 0}));
@@ -64,12 +65,13 @@ TEST(TwoWriters, LoseNoWord) {
     for (const std::string& prefix : prefixes) {
         for (int number = 0; number < kWordsEach; ++number) {
             std::string word = prefix;
-            for (int i = 0, rest = number; i < 4; ++i, rest /= 10) word += static_cast<char>('a' + rest % 10);
+            for (int i = 0, rest = number; i < 4; ++i, rest /= 10)
+                word += static_cast<char>('a' + rest % 10);
             ASSERT_TRUE(file.Contains(word, EntryForms::KeyedOnly)) << word;
         }
     }
-    // The smallest word may stand there twice: on the first line it is not seen when it comes again,
-    // but here each word comes once.
+    // The smallest word may stand there twice: on the first line it is not seen when it comes
+    // again, but here each word comes once.
     EXPECT_EQ(file.CountEntries(), 2u * kWordsEach);
     EXPECT_EQ(dictionary_edit::SortedDistinct(bytes, AnsiCodePage::Get(1252)), bytes) << "in order";
     for (const auto& entry : std::filesystem::directory_iterator(data.CustomFolder())) {
@@ -86,7 +88,8 @@ TEST(ReadOnlyFile, GivesAnErrorAndStaysAsItIs) {
     const perms write = perms::owner_write | perms::group_write | perms::others_write;
     std::filesystem::permissions(file, write, std::filesystem::perm_options::remove);
     Path path;
-    const Result<void> added = AddWordToDictionary(data.store, L"new", AddTarget::ActiveCustom, path);
+    const Result<void> added =
+        AddWordToDictionary(data.store, L"new", AddTarget::ActiveCustom, path);
     const Result<Path> removed = RemoveWordFromDictionaries(data.store, L"zebra");
     std::filesystem::permissions(file, write, std::filesystem::perm_options::add);
 

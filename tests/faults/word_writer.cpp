@@ -31,7 +31,8 @@ int Run(const Path& folder, const std::wstring& prefix, int count) {
             if (!removed) done = tl::unexpected(removed.error());
         }
         if (!done) {
-            std::cerr << PathForMessage(done.error().where) << ": " << ToUtf8(done.error().what) << "\n";
+            std::cerr << PathForMessage(done.error().where) << ": " << ToUtf8(done.error().what)
+                      << "\n";
             return 1;
         }
     }

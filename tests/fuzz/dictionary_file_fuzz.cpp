@@ -22,13 +22,15 @@ std::uint32_t Rounds() {
 std::string RandomBytes(Random& random, std::size_t longest) {
     static const std::string kSpecial(",,\r\n\r\n\0\x1A 0-9aA\x80\xFF\xE9", 17);
     std::string bytes(random.Below(longest + 1), '\0');
-    for (char& c : bytes) c = random.OneIn(2) ? random.Pick(kSpecial) : static_cast<char>(random.Below(256));
+    for (char& c : bytes)
+        c = random.OneIn(2) ? random.Pick(kSpecial) : static_cast<char>(random.Below(256));
     return bytes;
 }
 
 std::string ValidFile(Random& random, const AnsiCodePage& page) {
     std::string bytes;
-    for (std::size_t i = random.Below(30); i > 0; --i) bytes += EntryLine(random.Word(L"abcde'", 1, 6), page);
+    for (std::size_t i = random.Below(30); i > 0; --i)
+        bytes += EntryLine(random.Word(L"abcde'", 1, 6), page);
     return random.OneIn(2) ? dictionary_edit::SortedDistinct(bytes, page) : bytes;
 }
 
@@ -37,7 +39,8 @@ void Mutate(Random& random, std::string& bytes) {
     const std::size_t length = random.Below(std::min<std::size_t>(bytes.size() - at, 20) + 1);
     switch (random.Below(6)) {
         case 0:
-            if (at < bytes.size()) bytes[at] = static_cast<char>(bytes[at] ^ (1 << random.Below(8)));
+            if (at < bytes.size())
+                bytes[at] = static_cast<char>(bytes[at] ^ (1 << random.Below(8)));
             break;
         case 1:
             bytes.insert(at, RandomBytes(random, 6));
@@ -77,7 +80,8 @@ std::map<std::string, int> Counted(const std::vector<std::string>& lines) {
 }
 
 void CheckLookup(const std::string& bytes, const std::string& word) {
-    const bool keyed = bytes.find("\n" + word + ",") != std::string::npos || bytes.starts_with(word + ",");
+    const bool keyed =
+        bytes.find("\n" + word + ",") != std::string::npos || bytes.starts_with(word + ",");
     const bool bare = bytes.find("\n" + word + "\r") != std::string::npos;
     const DictionaryFile file{bytes};
     ASSERT_EQ(file.Contains(word, EntryForms::KeyedOnly), keyed);
@@ -88,9 +92,10 @@ void CheckCandidates(const std::string& bytes, const AnsiCodePage& page) {
     const DictionaryFile file{bytes};
     const CandidateList& list = file.Candidates(page);
     const std::vector<std::string> lines = LinesOf(bytes);
-    ASSERT_EQ(list.size(), static_cast<std::size_t>(std::count_if(lines.begin(), lines.end(), [](const auto& line) {
-                  return !line.substr(0, line.find(',')).empty();
-              })));
+    ASSERT_EQ(list.size(), static_cast<std::size_t>(
+                               std::count_if(lines.begin(), lines.end(), [](const auto& line) {
+                                   return !line.substr(0, line.find(',')).empty();
+                               })));
     ASSERT_EQ(list.masks.size(), list.size());
     for (std::size_t i = 0; i < list.size(); ++i) {
         ASSERT_LE(std::size_t{list.offsets[i]} + list.lengths[i], bytes.size());
@@ -101,9 +106,10 @@ void CheckCandidates(const std::string& bytes, const AnsiCodePage& page) {
     ASSERT_LE(list.leading_inherits, list.size());
 }
 
-void CheckAddition(const std::string& bytes, const std::vector<std::string>& entries, const AnsiCodePage& page,
-                   SortMoment moment) {
-    const std::optional<std::string> changed = dictionary_edit::WithEntries(bytes, entries, page, moment);
+void CheckAddition(const std::string& bytes, const std::vector<std::string>& entries,
+                   const AnsiCodePage& page, SortMoment moment) {
+    const std::optional<std::string> changed =
+        dictionary_edit::WithEntries(bytes, entries, page, moment);
     std::map<std::string, int> before = Counted(LinesOf(bytes));
     for (const std::string& entry : entries) {
         const std::string line = entry.substr(0, entry.size() - 2);
@@ -124,7 +130,8 @@ void CheckAddition(const std::string& bytes, const std::vector<std::string>& ent
     ASSERT_TRUE(changed->ends_with("\r\n"));
     // Nothing is lost, and nothing but the entries comes in.
     for (const auto& [line, count] : Counted(LinesOf(*changed))) {
-        const bool is_entry = std::find(entries.begin(), entries.end(), line + "\r\n") != entries.end();
+        const bool is_entry =
+            std::find(entries.begin(), entries.end(), line + "\r\n") != entries.end();
         ASSERT_GE(count, before[line]);
         ASSERT_TRUE(is_entry || count == before[line]);
         before.erase(line);
@@ -150,7 +157,8 @@ TEST(FuzzDictionaryFile, KeepsItsPromisesWhateverTheBytes) {
         SCOPED_TRACE("round " + std::to_string(round) + " " + testing::PrintToString(bytes));
 
         const std::vector<std::string> lines = LinesOf(bytes);
-        std::vector<std::string> words = {"", RandomBytes(random, 3), bytes.substr(random.Below(bytes.size() + 1), 4)};
+        std::vector<std::string> words = {"", RandomBytes(random, 3),
+                                          bytes.substr(random.Below(bytes.size() + 1), 4)};
         std::vector<std::string> entries;
         for (int i = 0; i < 4; ++i) {
             const std::string line = lines.empty() ? std::string() : random.Pick(lines);
@@ -165,7 +173,8 @@ TEST(FuzzDictionaryFile, KeepsItsPromisesWhateverTheBytes) {
         CheckCandidates(bytes, page);
         CheckAddition(bytes, entries, page, SortMoment::AfterLastEntry);
         CheckAddition(bytes, entries, page, SortMoment::AfterEachEntry);
-        for (const std::string& entry : entries) CheckRemoval(bytes, entry.substr(0, entry.size() - 2));
+        for (const std::string& entry : entries)
+            CheckRemoval(bytes, entry.substr(0, entry.size() - 2));
         CheckRemoval(bytes, lines.empty() ? "x" : lines.front());
         if (testing::Test::HasFatalFailure()) return;
     }
