@@ -17,9 +17,9 @@ struct CheckResult {
     bool cancelled = false;
 };
 
-/// Runs the check pass over a whole text whose line breaks may be CR, LF or CR LF. The cancel flag of
-/// `state` is cleared first and set when the progress display asks to stop; the words found so far
-/// are kept.
+/// Runs the check pass over a whole text whose line breaks may be CR, LF or CR LF. The cancel flag
+/// of `state` is cleared first and set when the progress display asks to stop; the words found so
+/// far are kept.
 CheckResult CheckText(std::wstring_view text, DictionaryStore& store, const SplitRules& rules,
                       Progress& progress);
 

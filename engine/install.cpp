@@ -14,7 +14,8 @@ namespace fs = std::filesystem;
 
 bool HasDictionary(const Path& folder) {
     std::error_code failed;
-    for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
+    for (fs::directory_iterator at(folder, failed), end; !failed && at != end;
+         at.increment(failed)) {
         if (at->path().extension() == ".dic") return true;
     }
     return false;
@@ -24,8 +25,9 @@ bool HasDictionary(const Path& folder) {
 
 bool InstallShippedDictionaries(const ProgramState& state, const Path& shipped) {
     // The setting ends in a separator; the copy is made beside the folder itself.
-    const Path target = state.LanguageDictFolder.has_filename() ? state.LanguageDictFolder
-                                                                : state.LanguageDictFolder.parent_path();
+    const Path target = state.LanguageDictFolder.has_filename()
+                            ? state.LanguageDictFolder
+                            : state.LanguageDictFolder.parent_path();
     if (HasDictionary(target)) return true;
     const int pack = ShippedPackOf(NumberOrZero(state.LanguageId));
     const Path source = shipped / std::to_string(pack);
@@ -46,7 +48,8 @@ bool InstallShippedDictionaries(const ProgramState& state, const Path& shipped) 
     fs::remove(target, failed);
     fs::rename(copy, target, failed);
     if (failed) {
-        for (fs::directory_iterator at(copy, failed), end; !failed && at != end; at.increment(failed)) {
+        for (fs::directory_iterator at(copy, failed), end; !failed && at != end;
+             at.increment(failed)) {
             fs::rename(at->path(), target / at->path().filename(), failed);
         }
         fs::remove_all(copy, failed);

@@ -55,7 +55,8 @@ std::int32_t CommonCharCount(std::string_view word, std::string_view candidate, 
         for (std::int32_t j = first2; j + best <= last2; ++j) {
             std::int32_t k = 0;
             while (i + k <= last1 && j + k <= last2 &&
-                   word[static_cast<std::size_t>(i + k - 1)] == candidate[static_cast<std::size_t>(j + k - 1)]) {
+                   word[static_cast<std::size_t>(i + k - 1)] ==
+                       candidate[static_cast<std::size_t>(j + k - 1)]) {
                 ++k;
             }
             if (k > best) {
@@ -135,7 +136,8 @@ bool LikePattern(std::wstring_view text, std::wstring_view pattern) {
                 continue;
             }
         } else if (p < pattern.size() && t < text.size()) {
-            const bool matches = pattern[p] == L'?' || (pattern[p] == L'#' && text[t] >= L'0' && text[t] <= L'9') ||
+            const bool matches = pattern[p] == L'?' ||
+                                 (pattern[p] == L'#' && text[t] >= L'0' && text[t] <= L'9') ||
                                  (pattern[p] != L'#' && pattern[p] == text[t]);
             if (matches) {
                 ++t;

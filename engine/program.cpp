@@ -18,7 +18,8 @@ Program::Program(ProgramOptions options, UiServices& services)
     state.LocaleOverride = options_.locale;
     const int locale = options_.locale != 0 ? options_.locale : SystemDefaultLocale();
     // A locale that was asked for brings its own page, so that results do not hang on the machine.
-    state.CodePage = &AnsiCodePage::Get(options_.locale != 0 ? AnsiPageOfLocale(locale) : SystemAnsiPage(locale));
+    state.CodePage = &AnsiCodePage::Get(options_.locale != 0 ? AnsiPageOfLocale(locale)
+                                                             : SystemAnsiPage(locale));
 
     PrepareFolders(state);
     modRcLangs::InitLanguage(state, ui);
@@ -54,14 +55,16 @@ void Program::OverrideLanguage() {
         state.LanguageId = std::to_wstring(locale);
         modRcLangs::LanguageFileExists(state, state.LanguageId);
         modRcLangs::SetLanguageFilePath(state);
-        state.LanguageDictFolder = state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId) / "";
+        state.LanguageDictFolder =
+            state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId) / "";
     }
 }
 
 void Program::InstallDictionaries() {
     if (!options_.install_dictionaries) return;
-    InstallShippedDictionaries(state, options_.shipped_dictionaries.empty() ? ProgramFolder() / "dictionaries"
-                                                                           : options_.shipped_dictionaries);
+    InstallShippedDictionaries(state, options_.shipped_dictionaries.empty()
+                                          ? ProgramFolder() / "dictionaries"
+                                          : options_.shipped_dictionaries);
 }
 
 }  // namespace wordhawk

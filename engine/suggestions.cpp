@@ -37,13 +37,14 @@ class Search {
 
     Suggestions Finish(std::uint8_t search_mode) {
         if (search_mode != 1) {
-            std::stable_sort(found_.list.begin(), found_.list.end(),
-                             [](const Suggestion& a, const Suggestion& b) { return a.score > b.score; });
+            std::stable_sort(
+                found_.list.begin(), found_.list.end(),
+                [](const Suggestion& a, const Suggestion& b) { return a.score > b.score; });
         }
         if (FoundBest()) {
-            const auto at = std::find_if(found_.list.begin(), found_.list.end(), [&](const Suggestion& s) {
-                return EqualIgnoringCase(s.word, best_);
-            });
+            const auto at =
+                std::find_if(found_.list.begin(), found_.list.end(),
+                             [&](const Suggestion& s) { return EqualIgnoringCase(s.word, best_); });
             found_.best = static_cast<int>(at - found_.list.begin());
         }
         return std::move(found_);

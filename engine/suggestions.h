@@ -18,7 +18,8 @@ struct Suggestion {
 struct Suggestions {
     /// Best score first and equal scores in file order when the mode is 0 or 2; file order in 1.
     std::vector<Suggestion> list;
-    /// Index of the best suggestion in `list` (the first entry with its text), -1 when there is none.
+    /// Index of the best suggestion in `list` (the first entry with its text), -1 when there is
+    /// none.
     int best = -1;
 };
 

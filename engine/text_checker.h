@@ -57,11 +57,13 @@ class TextChecker {
   private:
     bool IsInMain(const ScannedWord& word) {
         const bool packs = word.packed != PackedWord{};
-        PackedWord& recent = recent_[(word.packed.low ^ word.packed.high) * 0x9E3779B97F4A7C15u >> (64 - kRecentBits)];
+        PackedWord& recent = recent_[(word.packed.low ^ word.packed.high) * 0x9E3779B97F4A7C15u >>
+                                     (64 - kRecentBits)];
         if (packs && recent == word.packed) return true;
-        const DictionaryFile& file = store_.MainFileOfBytes(static_cast<unsigned char>(word.bytes[0]),
-                                                            static_cast<unsigned char>(word.bytes[1]));
-        if (!file.ContainsHashed(word.bytes, DictionaryFile::HashBytes(word.bytes), EntryForms::KeyedOnly)) {
+        const DictionaryFile& file = store_.MainFileOfBytes(
+            static_cast<unsigned char>(word.bytes[0]), static_cast<unsigned char>(word.bytes[1]));
+        if (!file.ContainsHashed(word.bytes, DictionaryFile::HashBytes(word.bytes),
+                                 EntryForms::KeyedOnly)) {
             return false;
         }
         if (packs) recent = word.packed;

@@ -11,14 +11,15 @@ constexpr std::array<std::wstring_view, 12> kPrefixes = {
     L"http:", L"https:",    L"ftp:",    L"mailto:", L"file:", L"gopher:",
     L"nntp:", L"prospero:", L"telnet:", L"news:",   L"wais:", L"www."};
 
-/// Start of the first address prefix at or behind `from`, npos when there is none. Every prefix ends
-/// in a mark that it holds nowhere else, so the first mark found belongs to the first prefix.
+/// Start of the first address prefix at or behind `from`, npos when there is none. Every prefix
+/// ends in a mark that it holds nowhere else, so the first mark found belongs to the first prefix.
 std::size_t FindPrefix(std::wstring_view text, std::size_t from) {
     for (std::size_t mark = from; mark < text.size(); ++mark) {
         if (text[mark] != L':' && text[mark] != L'.') continue;
         for (const std::wstring_view prefix : kPrefixes) {
             const std::size_t letters = prefix.size() - 1;
-            if (mark >= from + letters && text.compare(mark - letters, prefix.size(), prefix) == 0) {
+            if (mark >= from + letters &&
+                text.compare(mark - letters, prefix.size(), prefix) == 0) {
                 return mark - letters;
             }
         }
@@ -30,11 +31,22 @@ std::size_t FindPrefix(std::wstring_view text, std::size_t from) {
 
 bool IsAddressEnd(wchar_t c) {
     switch (c) {
-        case L' ': case L'\r': case L'\n': case L'\t': case L'"': case L')': case L',': case L';':
-        case L'<': case L'>': case L'[': case L']': case L'{': case L'|': case L'}':
-            return true;
-        default:
-            return false;
+        case L' ':
+        case L'\r':
+        case L'\n':
+        case L'\t':
+        case L'"':
+        case L')':
+        case L',':
+        case L';':
+        case L'<':
+        case L'>':
+        case L'[':
+        case L']':
+        case L'{':
+        case L'|':
+        case L'}': return true;
+        default: return false;
     }
 }
 
@@ -70,7 +82,8 @@ std::int32_t AddressBlanker::Known::EarliestAtStartOf(std::wstring_view text) co
 
 void AddressBlanker::Blank(std::wstring& block, std::vector<Range>* ranges) {
     for (std::size_t at = FindPrefix(block, 0); at != std::wstring::npos;) {
-        const auto end_at = std::find_if(block.begin() + static_cast<std::ptrdiff_t>(at), block.end(), IsAddressEnd);
+        const auto end_at = std::find_if(block.begin() + static_cast<std::ptrdiff_t>(at),
+                                         block.end(), IsAddressEnd);
         const auto end = static_cast<std::size_t>(end_at - block.begin());
         BlankRun(block, at, end, ranges);
         at = FindPrefix(block, end);
@@ -89,7 +102,8 @@ void AddressBlanker::BlankRun(std::wstring& block, std::size_t begin, std::size_
             // Known addresses go in the order in which they were met; what then still begins with
             // the prefix is a new one.
             std::int32_t earliest = -1;
-            for (std::size_t at = first; at != std::wstring_view::npos; at = run.find(prefix, at + 1)) {
+            for (std::size_t at = first; at != std::wstring_view::npos;
+                 at = run.find(prefix, at + 1)) {
                 const std::int32_t here = known.EarliestAtStartOf(run.substr(at));
                 if (here >= 0 && (earliest < 0 || here < earliest)) earliest = here;
             }
@@ -100,7 +114,8 @@ void AddressBlanker::BlankRun(std::wstring& block, std::size_t begin, std::size_
             const std::wstring& address = known.addresses[static_cast<std::size_t>(earliest)];
             for (std::size_t at = run.find(address); at != std::wstring_view::npos;
                  at = run.find(address, at + address.size())) {
-                std::fill_n(block.begin() + static_cast<std::ptrdiff_t>(begin + at), address.size(), L' ');
+                std::fill_n(block.begin() + static_cast<std::ptrdiff_t>(begin + at), address.size(),
+                            L' ');
                 if (ranges != nullptr) ranges->push_back({begin + at, address.size()});
             }
             first = run.find(prefix);

@@ -30,8 +30,8 @@ class AddressBlanker {
         std::size_t length;
     };
 
-    /// Overwrites every address in `block` with spaces, so that offsets stay, and appends where each
-    /// one stood to `ranges` when given. Cut blocks behind a space or a line end.
+    /// Overwrites every address in `block` with spaces, so that offsets stay, and appends where
+    /// each one stood to `ranges` when given. Cut blocks behind a space or a line end.
     void Blank(std::wstring& block, std::vector<Range>* ranges = nullptr);
 
     /// Whether the block holds any address prefix: a quick look, so that most blocks need no copy.

@@ -102,8 +102,7 @@ bool WordMatcher::KeyPasses(std::int32_t key) const {
             if (IsFiveDigits(key) && IsFiveDigits(key_)) return key / 10 == key_ / 10;
             return modSimPercent::LikePattern(std::to_wstring(key), key_pattern_) &&
                    modSimPercent::KeysAgree(key, key_, 2);
-        default:
-            return false;
+        default: return false;
     }
 }
 
@@ -134,7 +133,8 @@ std::int32_t WordMatcher::LongestCommonSubsequence(std::string_view candidate) c
         const std::uint64_t matches = rest & lower_places_[static_cast<unsigned char>(c)];
         rest = (rest + matches) | (rest - matches);
     }
-    const std::uint64_t own = lower_.size() == kBits ? ~std::uint64_t{0} : (std::uint64_t{1} << lower_.size()) - 1;
+    const std::uint64_t own =
+        lower_.size() == kBits ? ~std::uint64_t{0} : (std::uint64_t{1} << lower_.size()) - 1;
     return __builtin_popcountll(~rest & own);
 }
 
@@ -144,7 +144,8 @@ double WordMatcher::PlainWildcardRatio(std::string_view candidate) const {
     std::size_t front = 0;
     while (front < shorter && lower_bytes_[front] == candidate[front]) ++front;
     std::size_t back = 0;
-    while (back < shorter && lower_bytes_[own - 1 - back] == candidate[candidate.size() - 1 - back]) ++back;
+    while (back < shorter && lower_bytes_[own - 1 - back] == candidate[candidate.size() - 1 - back])
+        ++back;
     const bool matches = candidate.size() + 1 >= own && front + back + 1 >= own;
     const int count = (matches ? static_cast<int>(own) : 0) - (candidate.size() == own ? 0 : 1);
     return static_cast<double>(count) / static_cast<double>(own);
@@ -170,16 +171,15 @@ std::optional<std::int32_t> WordMatcher::Score(std::string_view candidate, std::
     if (!KeyPasses(key)) return std::nullopt;
     if (plain_distance_ && PlainDistance(candidate) > rules_.diversity) return std::nullopt;
     const bool lower_candidate = mask != kUnknownLetters;
-    const std::int32_t score =
-        plain_ && lower_candidate
-            ? PlainScore(candidate)
-            : modSimPercent::SimilarityPercent(lower_, page_.Decode(candidate), key, key_,
-                                               rules_.search_mode, page_);
+    const std::int32_t score = plain_ && lower_candidate ? PlainScore(candidate)
+                                                         : modSimPercent::SimilarityPercent(
+                                                               lower_, page_.Decode(candidate), key,
+                                                               key_, rules_.search_mode, page_);
     if (score < rules_.score_threshold) return std::nullopt;
     if (!plain_distance_) {
-        const auto swaps =
-            rules_.count_swaps ? Transposition::OneEdit : Transposition::NotCounted;
-        if (distance_.LevenshteinDistance(word_, page_.Decode(candidate), swaps) > rules_.diversity) {
+        const auto swaps = rules_.count_swaps ? Transposition::OneEdit : Transposition::NotCounted;
+        if (distance_.LevenshteinDistance(word_, page_.Decode(candidate), swaps) >
+            rules_.diversity) {
             return std::nullopt;
         }
     }

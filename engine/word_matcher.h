@@ -32,7 +32,8 @@ class WordMatcher {
     }
 
     /// Score of a candidate that passes the key, distance and score tests; none when it does not.
-    std::optional<std::int32_t> Score(std::string_view candidate, std::uint64_t mask, std::int32_t key);
+    std::optional<std::int32_t> Score(std::string_view candidate, std::uint64_t mask,
+                                      std::int32_t key);
 
     std::int32_t Key() const { return key_; }
     const std::wstring& LowerWord() const { return lower_; }

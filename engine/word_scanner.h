@@ -39,8 +39,8 @@ struct ScannedWord {
 };
 
 /// Cuts a text that comes in blocks into the words that a check looks up: in one pass what
-/// RemoveWebAddresses, ReplaceDelimiters, lower-casing, splitting and CleanWord do one after another.
-/// CR and LF end lines in any combination. Every occurrence is given, in text order.
+/// RemoveWebAddresses, ReplaceDelimiters, lower-casing, splitting and CleanWord do one after
+/// another. CR and LF end lines in any combination. Every occurrence is given, in text order.
 class WordScanner {
   public:
     WordScanner(const SplitRules& rules, const AnsiCodePage& page);
@@ -64,7 +64,8 @@ class WordScanner {
   private:
     // What a unit means to the scanner; the low byte of a table entry is its lower-cased ANSI byte.
     static constexpr std::uint16_t kSeparator = 0x100;
-    static constexpr std::uint16_t kUnusual = 0x200;  // digit, edge delimiter, comma, NUL, not in the page
+    static constexpr std::uint16_t kUnusual =
+        0x200;  // digit, edge delimiter, comma, NUL, not in the page
     static constexpr std::uint16_t kCased = 0x400;
     static constexpr std::size_t kLongestUsual = 63;
 

@@ -31,7 +31,8 @@ void WordScanner::ScanPlain(std::wstring_view block, Sink&& sink) {
                            token.front() != L'\'' && token.back() != L'\'';
         if (usual) {
             if (length > PackedWord::kLongest) packed = {};
-            sink(ScannedWord{token, consumed_ + start, std::string_view(bytes.data(), length), packed});
+            sink(ScannedWord{token, consumed_ + start, std::string_view(bytes.data(), length),
+                             packed});
         } else {
             ScanUnusual(token, consumed_ + start, sink);
         }

@@ -159,9 +159,13 @@ std::size_t CountCharacters(std::wstring_view text) {
     return text.size() - pairs;
 }
 
-wchar_t LowerChar(wchar_t c) { return static_cast<wchar_t>(LowerTable()[static_cast<std::uint16_t>(c)]); }
+wchar_t LowerChar(wchar_t c) {
+    return static_cast<wchar_t>(LowerTable()[static_cast<std::uint16_t>(c)]);
+}
 
-wchar_t UpperChar(wchar_t c) { return static_cast<wchar_t>(UpperTable()[static_cast<std::uint16_t>(c)]); }
+wchar_t UpperChar(wchar_t c) {
+    return static_cast<wchar_t>(UpperTable()[static_cast<std::uint16_t>(c)]);
+}
 
 std::wstring Lower(std::wstring_view text) {
     const CaseTable& table = LowerTable();
@@ -178,9 +182,9 @@ std::wstring Upper(std::wstring_view text) {
 }
 
 bool EqualIgnoringCase(std::wstring_view a, std::wstring_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](wchar_t x, wchar_t y) {
-               return x == y || LowerChar(x) == LowerChar(y);
-           });
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(),
+                      [](wchar_t x, wchar_t y) { return x == y || LowerChar(x) == LowerChar(y); });
 }
 
 std::wstring_view Trim(std::wstring_view text) {
@@ -201,7 +205,8 @@ std::int32_t NumberOrZero(std::wstring_view text) {
         if (value > std::int64_t{1} << 40) return 0;
     }
     if (negative) value = -value;
-    if (value < std::numeric_limits<std::int32_t>::min() || value > std::numeric_limits<std::int32_t>::max()) {
+    if (value < std::numeric_limits<std::int32_t>::min() ||
+        value > std::numeric_limits<std::int32_t>::max()) {
         return 0;
     }
     return static_cast<std::int32_t>(value);
@@ -209,7 +214,8 @@ std::int32_t NumberOrZero(std::wstring_view text) {
 
 AnsiCodePage::AnsiCodePage(int number) : number_(number) {
     if (!SystemCodePageTable(number, to_unicode_)) {
-        for (std::size_t byte = 0; byte < 256; ++byte) to_unicode_[byte] = static_cast<wchar_t>(byte);
+        for (std::size_t byte = 0; byte < 256; ++byte)
+            to_unicode_[byte] = static_cast<wchar_t>(byte);
     }
     to_byte_.fill(-1);
     // Downwards, so that of two bytes for one character the lower wins.

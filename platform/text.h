@@ -54,7 +54,9 @@ class AnsiCodePage {
     wchar_t ToUnicode(unsigned char byte) const { return to_unicode_[byte]; }
     /// The byte of `c`, or -1 when the page has none.
     int ToByteOrNone(wchar_t c) const {
-        return static_cast<std::uint32_t>(c) < to_byte_.size() ? to_byte_[static_cast<std::uint32_t>(c)] : -1;
+        return static_cast<std::uint32_t>(c) < to_byte_.size()
+                   ? to_byte_[static_cast<std::uint32_t>(c)]
+                   : -1;
     }
     unsigned char ToByte(wchar_t c) const {
         const int byte = ToByteOrNone(c);

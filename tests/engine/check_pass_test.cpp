@@ -43,9 +43,13 @@ TEST_F(CheckPass, ListsEachUnknownWordOnceInOrder) {
         {L"don't 'don't' dont", {L"dont"}, "apostrophes"},
         {L"h\xE9ros heros", {L"heros"}, "accents count"},
         {L"abc123 NASSA a", {L"nassa"}, "digits go, capitals stay in lower case"},
-        {L"\x43F\x440\x438\x432\x435\x442 \x43F\x440\x438\x432\x435\x434", {L"\x43F\x440\x438\x432\x435\x442", L"\x43F\x440\x438\x432\x435\x434"}, "letters outside the page keep their spelling"},
+        {L"\x43F\x440\x438\x432\x435\x442 \x43F\x440\x438\x432\x435\x434",
+         {L"\x43F\x440\x438\x432\x435\x442", L"\x43F\x440\x438\x432\x435\x434"},
+         "letters outside the page keep their spelling"},
         {L"see http://cat.zzz/qqq zat", {L"see", L"zat"}, "addresses"},
-        {std::wstring(L"a\0b\xFEFF", 4), {std::wstring(L"a\0b\xFEFF", 4)}, "NUL and mark are word characters"},
+        {std::wstring(L"a\0b\xFEFF", 4),
+         {std::wstring(L"a\0b\xFEFF", 4)},
+         "NUL and mark are word characters"},
         {L"\xD83D\xD83D", {}, "surrogates have no case: dropped like capitals"},
     };
     for (const auto& c : cases) EXPECT_EQ(Check(c.text), c.words) << c.why;
@@ -83,13 +87,16 @@ TEST_F(CheckPass, OneVeryLongLineIsChecked) {
 /// Word by word through the public look-up.
 TEST_F(CheckPass, OccurrencesAgreeWithLookingUpEveryWord) {
     test::Random random(17);
-    const std::vector<std::wstring> pieces = {L"the", L"cat", L"zat", L"Mine", L"bare", L"\xE9", L"a", L"'", L"12", L" ", L" ", L".", L"\n", L"\x410\x411", L"aa"};
+    const std::vector<std::wstring> pieces = {L"the",  L"cat", L"zat", L"Mine",       L"bare",
+                                              L"\xE9", L"a",   L"'",   L"12",         L" ",
+                                              L" ",    L".",   L"\n",  L"\x410\x411", L"aa"};
     for (int round = 0; round < 500; ++round) {
         const std::wstring text = random.Mix(pieces, 60);
         Words expected;
         WordScanner scanner(rules_, *data_.state.CodePage);
         scanner.Scan(text, [&](const ScannedWord& word) {
-            if (!data_.store.IsWordInDictionaries(word.text, Scope::MainAndCustom)) expected.push_back(Lower(word.text));
+            if (!data_.store.IsWordInDictionaries(word.text, Scope::MainAndCustom))
+                expected.push_back(Lower(word.text));
         });
         Words got;
         TextChecker checker(data_.store, rules_);

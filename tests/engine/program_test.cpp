@@ -27,8 +27,8 @@ class ProgramTest : public testing::Test {
 
 TEST_F(ProgramTest, FirstStartMakesFoldersSettingsAndLanguage) {
     const Program program(Options(), ui_);
-    for (const char* name : {"Dictionarys/Custom", "Dictionarys/2057", "Dictionarys/1033", "Resources/1033",
-                             "Resources/2057", "Sounds", "Saves"}) {
+    for (const char* name : {"Dictionarys/Custom", "Dictionarys/2057", "Dictionarys/1033",
+                             "Resources/1033", "Resources/2057", "Sounds", "Saves"}) {
         EXPECT_TRUE(IsFolder(program.state.DataFolder / name)) << name;
     }
     EXPECT_EQ(program.state.LanguageId, L"2057");
@@ -78,7 +78,8 @@ TEST_F(ProgramTest, OverridesHoldForOneRunOnly) {
 }
 
 TEST_F(ProgramTest, ForAutomationTheProgramOnlySettingsStayZero) {
-    test::WriteBytes(folder_ / L"new" / "Data" / "Wordhawk.ini", "[Settings]\r\nSortBy=2\r\nScoreValue=70\r\n");
+    test::WriteBytes(folder_ / L"new" / "Data" / "Wordhawk.ini",
+                     "[Settings]\r\nSortBy=2\r\nScoreValue=70\r\n");
     ProgramOptions options = Options();
     options.program_mode = false;
     const Program program(options, ui_);

@@ -67,11 +67,16 @@ TEST(CleanWord, SkipsWhatTheRulesExclude) {
         int result;
         std::wstring cleaned;
     } cases[] = {
-        {L"a", keep_all, -1, L"a"},           {L"ab", keep_all, 0, L"ab"},
-        {L"'a'", keep_all, -1, L"a"},         {L"abc123", numbers_only, -1, L""},
-        {L"abc123", keep_all, 0, L"abc123"},  {L"123", capitals_only, -1, L""},
-        {L"--", capitals_only, -1, L""},      {L"ABC", capitals_only, -1, L""},
-        {L"aBC", capitals_only, 0, L"aBC"},   {L"'quoted'", keep_all, 0, L"quoted"},
+        {L"a", keep_all, -1, L"a"},
+        {L"ab", keep_all, 0, L"ab"},
+        {L"'a'", keep_all, -1, L"a"},
+        {L"abc123", numbers_only, -1, L""},
+        {L"abc123", keep_all, 0, L"abc123"},
+        {L"123", capitals_only, -1, L""},
+        {L"--", capitals_only, -1, L""},
+        {L"ABC", capitals_only, -1, L""},
+        {L"aBC", capitals_only, 0, L"aBC"},
+        {L"'quoted'", keep_all, 0, L"quoted"},
         {L"\xB5\x192", capitals_only, -1, L""},  // neither has an upper form
     };
     for (const auto& c : cases) {
@@ -86,7 +91,8 @@ TEST(ExtractLineWords, GivesDistinctWordsInOrder) {
     using Words = std::vector<std::wstring>;
     EXPECT_EQ(ExtractLineWords(L"the the The", rules), Words{L"the"});
     EXPECT_EQ(ExtractLineWords(L"a b", rules), Words{});
-    EXPECT_EQ(ExtractLineWords(L"  two  blanks\r\nmore two ", rules), (Words{L"two", L"blanks", L"more"}));
+    EXPECT_EQ(ExtractLineWords(L"  two  blanks\r\nmore two ", rules),
+              (Words{L"two", L"blanks", L"more"}));
     EXPECT_EQ(ExtractLineWords(L"one,x,one two", rules), (Words{L"one", L"x", L"two"}));
 }
 
@@ -103,12 +109,14 @@ std::vector<Found> ScanInBlocks(const std::wstring& text, const SplitRules& rule
             EXPECT_EQ(Latin().Decode(word.bytes), Lower(word.text));
             PackedWord packed;
             for (const char byte : word.bytes) packed.Append(static_cast<unsigned char>(byte));
-            EXPECT_EQ(word.packed, word.bytes.size() <= PackedWord::kLongest ? packed : PackedWord{});
+            EXPECT_EQ(word.packed,
+                      word.bytes.size() <= PackedWord::kLongest ? packed : PackedWord{});
         }
         found.push_back({Lower(word.text), word.offset});
     };
     for (std::size_t from = 0; from < text.size();) {
-        std::size_t end = cuts == nullptr ? std::wstring::npos : text.find_first_of(L" \r\n", from + cuts->Below(30));
+        std::size_t end = cuts == nullptr ? std::wstring::npos
+                                          : text.find_first_of(L" \r\n", from + cuts->Below(30));
         end = end == std::wstring::npos ? text.size() : end + 1;
         scanner.Scan(std::wstring_view(text).substr(from, end - from), sink);
         from = end;
@@ -138,10 +146,46 @@ std::vector<std::wstring> SplitStepByStep(const std::wstring& text, const SplitR
 
 TEST(WordScanner, OnePassEqualsTheStepsOneByOne) {
     const std::vector<std::wstring> pieces = {
-        L"a",      L"b",    L"The",  L"don't", L"'",    L" ",       L"  ",     L"\r\n",  L"\n",      L"\r",
-        L"-",      L".",    L",",    L"1",     L"23",   L"http:",   L"www.x",  L"(",     L"\x2018",  L"\x2019",
-        L"\x410",  L"\x431", L"\xE9", L"\xDF",  L"\xB5", L"\x130",   L"\xD83D", L"\xDE00", L"\xFEFF", L"ABC",
-        L"\t",     L"?",    L"\"",   L"word",  L"\xA0", L"mailto:", L"]",      L"}",     L"\x152",   std::wstring(1, L'\0'),
+        L"a",
+        L"b",
+        L"The",
+        L"don't",
+        L"'",
+        L" ",
+        L"  ",
+        L"\r\n",
+        L"\n",
+        L"\r",
+        L"-",
+        L".",
+        L",",
+        L"1",
+        L"23",
+        L"http:",
+        L"www.x",
+        L"(",
+        L"\x2018",
+        L"\x2019",
+        L"\x410",
+        L"\x431",
+        L"\xE9",
+        L"\xDF",
+        L"\xB5",
+        L"\x130",
+        L"\xD83D",
+        L"\xDE00",
+        L"\xFEFF",
+        L"ABC",
+        L"\t",
+        L"?",
+        L"\"",
+        L"word",
+        L"\xA0",
+        L"mailto:",
+        L"]",
+        L"}",
+        L"\x152",
+        std::wstring(1, L'\0'),
         L"abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrstuvwxyzabcdefghijklmnopqr"};
     const std::wstring all_delimiters = DefaultRules().delimiters;
     Random random(11);
@@ -157,8 +201,10 @@ TEST(WordScanner, OnePassEqualsTheStepsOneByOne) {
         const std::vector<Found> found = ScanInBlocks(text, rules, &random);
         std::vector<std::wstring> distinct;
         for (const Found& f : found) {
-            ASSERT_EQ(Lower(std::wstring_view(text).substr(f.offset, f.word.size())), f.word) << "round " << round;
-            if (std::find(distinct.begin(), distinct.end(), f.word) == distinct.end()) distinct.push_back(f.word);
+            ASSERT_EQ(Lower(std::wstring_view(text).substr(f.offset, f.word.size())), f.word)
+                << "round " << round;
+            if (std::find(distinct.begin(), distinct.end(), f.word) == distinct.end())
+                distinct.push_back(f.word);
         }
         ASSERT_EQ(distinct, SplitStepByStep(text, rules)) << "round " << round;
     }
@@ -167,7 +213,8 @@ TEST(WordScanner, OnePassEqualsTheStepsOneByOne) {
 TEST(WordScanner, ReportsEveryOccurrenceInTextOrder) {
     const std::wstring text = L"One two, one.\n'Two' (ONE) it's";
     std::vector<std::pair<std::wstring, std::uint64_t>> got;
-    for (const Found& f : ScanInBlocks(text, DefaultRules(), nullptr)) got.emplace_back(f.word, f.offset);
+    for (const Found& f : ScanInBlocks(text, DefaultRules(), nullptr))
+        got.emplace_back(f.word, f.offset);
     const std::vector<std::pair<std::wstring, std::uint64_t>> expected = {
         {L"one", 0}, {L"two", 4}, {L"one", 9}, {L"two", 15}, {L"one", 21}, {L"it's", 26}};
     EXPECT_EQ(got, expected);

@@ -30,7 +30,8 @@ std::vector<std::wstring> Lines(const std::wstring& text) {
 }
 
 /// The search line by line, test by test, in the order of its definition.
-Suggestions SearchLineByLine(Dictionaries& data, const std::wstring& word, const SuggestionRules& rules) {
+Suggestions SearchLineByLine(Dictionaries& data, const std::wstring& word,
+                             const SuggestionRules& rules) {
     Suggestions result;
     if (word.size() < 2) return result;
     const AnsiCodePage& page = *data.state.CodePage;
@@ -41,7 +42,8 @@ Suggestions SearchLineByLine(Dictionaries& data, const std::wstring& word, const
     if (rules.search_mode <= 1) pattern = key_text.substr(0, 2) + L"##" + key_text.back();
     if (rules.search_mode == 2) pattern = key_text.substr(0, 4) + L"#";
     std::vector<Path> files = {data.store.MainPathFor(w)};
-    for (const std::wstring& name : data.settings.CustomDictionaries) files.push_back(data.store.CustomPath(name));
+    for (const std::wstring& name : data.settings.CustomDictionaries)
+        files.push_back(data.store.CustomPath(name));
     std::wstring best;
     int best_score = 0;
     bool fixed = false;
@@ -59,11 +61,15 @@ Suggestions SearchLineByLine(Dictionaries& data, const std::wstring& word, const
             if (fields == 1) key = GetPhoneticKey(c, page);
             if (fields == 2) key = NumberOrZero(line.substr(line.find(L',') + 1));
             if (key == 0) key = GetPhoneticKey(c, page);
-            const auto swaps = rules.count_swaps ? Transposition::OneEdit : Transposition::NotCounted;
+            const auto swaps =
+                rules.count_swaps ? Transposition::OneEdit : Transposition::NotCounted;
             if (measure.LevenshteinDistance(word, c, swaps) > rules.diversity) continue;
             if (rules.search_mode > 2) continue;
-            if (rules.search_mode != 1 && !modSimPercent::LikePattern(std::to_wstring(key), pattern)) continue;
-            const std::int32_t s = modSimPercent::SimilarityPercent(w, c, key, word_key, rules.search_mode, page);
+            if (rules.search_mode != 1 &&
+                !modSimPercent::LikePattern(std::to_wstring(key), pattern))
+                continue;
+            const std::int32_t s =
+                modSimPercent::SimilarityPercent(w, c, key, word_key, rules.search_mode, page);
             if (s < rules.score_threshold) continue;
             result.list.push_back({c, key, s});
             if (s > 0 && (c == w || s > best_score)) {
@@ -100,10 +106,12 @@ TEST(FindSuggestions, EqualsTheLineByLineSearchInAllModes) {
         Dictionaries data;
         const std::wstring letters = round % 2 == 0 ? L"aabct" : L"abt'\xE9";
         std::vector<std::wstring> words;
-        for (int i = 0; i < 300; ++i) words.push_back((random.OneIn(2) ? L"ab" : L"at") + random.Word(letters, 0, 8));
+        for (int i = 0; i < 300; ++i)
+            words.push_back((random.OneIn(2) ? L"ab" : L"at") + random.Word(letters, 0, 8));
         data.WriteMain(words);
         std::string custom;
-        const std::vector<std::string> odd_tails = {"\r\n", ",65123\r\n", ",0\r\n", ",x\r\n", ",1,2\r\n", ",,\n", "\n", ",99999999999\r\n"};
+        const std::vector<std::string> odd_tails = {
+            "\r\n", ",65123\r\n", ",0\r\n", ",x\r\n", ",1,2\r\n", ",,\n", "\n", ",99999999999\r\n"};
         for (int i = 0; i < 100; ++i) {
             std::wstring word = L"a" + random.Word(L"abtC\xC9*", 0, 7);
             if (random.OneIn(9)) word.clear();
@@ -117,23 +125,31 @@ TEST(FindSuggestions, EqualsTheLineByLineSearchInAllModes) {
             rules.search_mode = static_cast<std::uint8_t>(random.Below(4));
             rules.count_swaps = random.OneIn(2);
             rules.diversity = static_cast<int>(random.Below(6)) - (random.OneIn(20) ? 3 : 0);
-            rules.score_threshold = random.OneIn(3) ? static_cast<int>(random.Below(102)) : 60 + static_cast<int>(random.Below(30));
+            rules.score_threshold = random.OneIn(3) ? static_cast<int>(random.Below(102))
+                                                    : 60 + static_cast<int>(random.Below(30));
             rules.main_only = random.OneIn(5);
-            std::wstring word = random.OneIn(2) ? random.Pick(words) : L"a" + random.Word(letters + L"AT\x410?#[*", 0, 9);
+            std::wstring word = random.OneIn(2)
+                                    ? random.Pick(words)
+                                    : L"a" + random.Word(letters + L"AT\x410?#[*", 0, 9);
             if (random.OneIn(30)) word += random.Word(letters, 60, 70);
-            ASSERT_EQ(Show(FindSuggestions(data.store, word, rules)), Show(SearchLineByLine(data, word, rules)))
-                << ToUtf8(word) << " mode " << int{rules.search_mode} << " swaps " << rules.count_swaps << " diversity "
-                << rules.diversity << " threshold " << rules.score_threshold;
+            ASSERT_EQ(Show(FindSuggestions(data.store, word, rules)),
+                      Show(SearchLineByLine(data, word, rules)))
+                << ToUtf8(word) << " mode " << int{rules.search_mode} << " swaps "
+                << rules.count_swaps << " diversity " << rules.diversity << " threshold "
+                << rules.score_threshold;
         }
     }
 }
 
 class SuggestionRulesTest : public testing::Test {
   protected:
-    SuggestionRulesTest() { data_.WriteMain({L"the", L"then", L"they", L"thee", L"receive", L"recede", L"relieve"}); }
+    SuggestionRulesTest() {
+        data_.WriteMain({L"the", L"then", L"they", L"thee", L"receive", L"recede", L"relieve"});
+    }
     std::vector<std::wstring> Words(std::wstring_view word) {
         std::vector<std::wstring> words;
-        for (const Suggestion& s : FindSuggestions(data_.store, word, rules_).list) words.push_back(s.word);
+        for (const Suggestion& s : FindSuggestions(data_.store, word, rules_).list)
+            words.push_back(s.word);
         return words;
     }
     Dictionaries data_;

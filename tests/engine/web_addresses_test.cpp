@@ -12,13 +12,15 @@ using test::Random;
 /// The definition, step by step: prefix after prefix, found address by found address, each time
 /// from the start of the whole text.
 std::wstring RemoveStepByStep(std::wstring text) {
-    for (const std::wstring prefix : {L"http:", L"https:", L"ftp:", L"mailto:", L"file:", L"gopher:", L"nntp:",
-                                      L"prospero:", L"telnet:", L"news:", L"wais:", L"www."}) {
+    for (const std::wstring prefix :
+         {L"http:", L"https:", L"ftp:", L"mailto:", L"file:", L"gopher:", L"nntp:", L"prospero:",
+          L"telnet:", L"news:", L"wais:", L"www."}) {
         for (std::size_t at = text.find(prefix); at != std::wstring::npos; at = text.find(prefix)) {
             std::size_t end = at;
             while (end < text.size() && !IsAddressEnd(text[end])) ++end;
             const std::wstring address = text.substr(at, end - at);
-            for (std::size_t hit = text.find(address); hit != std::wstring::npos; hit = text.find(address, hit + 1)) {
+            for (std::size_t hit = text.find(address); hit != std::wstring::npos;
+                 hit = text.find(address, hit + 1)) {
                 text.replace(hit, address.size(), L" ");
             }
         }
@@ -49,9 +51,10 @@ TEST(WebAddresses, AreRemovedUpToTheirEnd) {
 }
 
 TEST(WebAddresses, OnePassEqualsStepByStep) {
-    const std::vector<std::wstring> pieces = {L"http:", L"https:", L"ftp:", L"mailto:", L"www.", L"file:",  L"news:",
-                                              L"a",     L"b",      L"ab",   L".",       L" ",    L",",      L"\r\n",
-                                              L"x",     L"w",      L"ww",   L"(",       L")",    L"prospero:"};
+    const std::vector<std::wstring> pieces = {
+        L"http:", L"https:", L"ftp:", L"mailto:", L"www.", L"file:",    L"news:",
+        L"a",     L"b",      L"ab",   L".",       L" ",    L",",        L"\r\n",
+        L"x",     L"w",      L"ww",   L"(",       L")",    L"prospero:"};
     Random random(7);
     for (int round = 0; round < 20'000; ++round) {
         const std::wstring text = random.Mix(pieces, 1 + random.Below(24));
@@ -60,7 +63,8 @@ TEST(WebAddresses, OnePassEqualsStepByStep) {
 }
 
 TEST(WebAddresses, BlocksGiveTheSameAsTheWholeText) {
-    const std::vector<std::wstring> pieces = {L"http:a", L"http:", L"www.", L"b", L"ab", L" ", L"\n", L"www.b"};
+    const std::vector<std::wstring> pieces = {L"http:a", L"http:", L"www.", L"b",
+                                              L"ab",     L" ",     L"\n",   L"www.b"};
     Random random(8);
     for (int round = 0; round < 3'000; ++round) {
         const std::wstring text = random.Mix(pieces, 40);

@@ -29,7 +29,8 @@ class Dictionaries {
     void WriteMain(std::vector<std::wstring> words) {
         std::sort(words.begin(), words.end());
         std::map<Path, std::string> files;
-        for (const std::wstring& word : words) files[store.MainPathFor(word)] += EntryLine(word, *state.CodePage);
+        for (const std::wstring& word : words)
+            files[store.MainPathFor(word)] += EntryLine(word, *state.CodePage);
         for (const auto& [path, bytes] : files) WriteBytes(path, bytes);
     }
     void WriteCustom(std::wstring_view name, std::string_view bytes) {

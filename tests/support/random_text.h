@@ -19,7 +19,9 @@ class Random {
     bool OneIn(std::size_t n) { return Below(n) == 0; }
 
     template <class Text>
-    auto Pick(const Text& from) { return from[Below(from.size())]; }
+    auto Pick(const Text& from) {
+        return from[Below(from.size())];
+    }
 
     std::wstring Word(std::wstring_view letters, std::size_t shortest, std::size_t longest) {
         std::wstring word;

@@ -13,8 +13,8 @@ namespace wordhawk::test {
 TempDir::TempDir() {
     static std::atomic<unsigned> counter{0};
     std::random_device device;
-    folder_ = TemporaryFolder() / ("wordhawk-test-" + std::to_string(device()) + "-" +
-                                   std::to_string(++counter));
+    folder_ = TemporaryFolder() /
+              ("wordhawk-test-" + std::to_string(device()) + "-" + std::to_string(++counter));
     std::filesystem::create_directories(folder_);
 }
 
@@ -25,7 +25,8 @@ TempDir::~TempDir() {
 
 void WriteBytes(const Path& path, std::string_view bytes) {
     std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(path, std::ios::binary)
+        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
 std::string ReadBytes(const Path& path) {
