@@ -188,7 +188,7 @@ class Bench:
         if not self.windows.exists():
             self.say("(The Windows program is not built.)\n")
             return
-        wine = {"WINEPREFIX": str(ROOT / "build" / "wine"), "WINEDEBUG": "-all"}
+        wine = {"WINEPREFIX": os.environ.get("WINEPREFIX", str(ROOT / "build" / "wine")), "WINEDEBUG": "-all"}
         keep_alive = subprocess.Popen(["wineserver", "-p", "-f"], env={**os.environ, **wine},
                                       stderr=subprocess.DEVNULL)
         try:
