@@ -278,7 +278,8 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
         if (error.get_exit_code() != 0) {
             const std::vector<std::string> left = app.remaining();
             if (!app.get_subcommands().empty()) return Wrong(error.what());
-            return Wrong(left.empty() ? error.what() : "there is no command or option " + left.front());
+            return Wrong(left.empty() ? error.what()
+                                      : "there is no command or option " + left.front());
         }
         std::ostringstream text;
         app.exit(error, text, text);

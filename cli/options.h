@@ -94,8 +94,8 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 /// The line that ispell clients read to see whom they speak with.
 extern const std::string kIspellBanner;
 
-/// Whether the arguments are those that programs start ispell with: a "-a", "-l", "-v" or "pipe" where
-/// a command would stand.
+/// Whether the arguments are those that programs start ispell with: a "-a", "-l", "-v" or "pipe"
+/// where a command would stand.
 bool IsIspellCommandLine(const std::vector<std::string>& arguments);
 
 /// Reads ispell's arguments; those that mean nothing here are passed over.

@@ -1,0 +1,139 @@
+#include "engine/rtf_text.h"
+#include "platform/text.h"
+#include "tests/support/random_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace wordhawk {
+namespace {
+
+using test::Random;
+
+std::uint32_t Rounds() {
+    const char* const asked = std::getenv("WORDHAWK_FUZZ_ROUNDS");
+    return asked != nullptr ? static_cast<std::uint32_t>(std::atol(asked)) : 4000u;
+}
+
+struct Document {
+    std::string rtf;
+    std::wstring text;
+};
+
+/// Appends pieces whose text is known; groups nest up to `depth`.
+void AppendPieces(Random& random, Document& document, int depth) {
+    for (std::size_t count = random.Below(8); count > 0; --count) {
+        const std::wstring word = random.Word(L"abcdefg", 1, 6);
+        const std::string ascii(word.begin(), word.end());
+        switch (random.Below(12)) {
+            case 0:
+                document.rtf += "\\par ";
+                document.text += L'\n';
+                break;
+            case 1:
+                document.rtf += "\\'e9";
+                document.text += L'\xE9';
+                break;
+            case 2:
+                document.rtf += "\\u322?";
+                document.text += L'\x142';
+                break;
+            case 3:
+                document.rtf += "\\uc2\\u-10179\\'3f?\\u-8704 ab\\uc1 ";
+                document.text += L"\xD83D\xDE00";
+                break;
+            case 4:
+                document.rtf += "{\\*\\" + ascii + "zz {" + ascii + "}}";
+                break;
+            case 5:
+                document.rtf += "{\\pict\\bin3 }}}}";
+                break;
+            case 6:
+                document.rtf += "\\{\\}\\\\";
+                document.text += L"{}\\";
+                break;
+            case 7:
+                document.rtf += "{\\v " + ascii + "}\r\n";
+                break;
+            case 8:
+                document.rtf += "\\b0\\fs24\\tab ";
+                document.text += L'\t';
+                break;
+            case 9:
+                if (depth > 0) {
+                    document.rtf += "{\\i ";
+                    AppendPieces(random, document, depth - 1);
+                    document.rtf += '}';
+                }
+                break;
+            default:
+                document.rtf += ascii;
+                document.text += word;
+                break;
+        }
+    }
+}
+
+Document MakeDocument(Random& random) {
+    Document document{"{\\rtf1\\ansi\\ansicpg1252{\\fonttbl{\\f0 Arial;}}\\f0 ", L""};
+    AppendPieces(random, document, 4);
+    document.rtf += '}';
+    return document;
+}
+
+TEST(RtfFuzz, GivesExactlyTheTextThatWasPutIn) {
+    Random random(1);
+    for (std::uint32_t round = 0; round < Rounds(); ++round) {
+        const Document document = MakeDocument(random);
+        ASSERT_EQ(RtfToText(document.rtf), document.text) << document.rtf;
+    }
+}
+
+TEST(RtfFuzz, BearsBrokenDocuments) {
+    Random random(2);
+    const std::vector<std::string> pieces = {"{",
+                                             "}",
+                                             "\\",
+                                             "\\'",
+                                             "\\u",
+                                             "\\bin",
+                                             "\\bin99 ",
+                                             "\\uc9 ",
+                                             "\\*",
+                                             "\\upr",
+                                             "{\\*\\ud",
+                                             "\\fonttbl",
+                                             "\\fcharset238",
+                                             "-",
+                                             "2147483648",
+                                             "\xFF",
+                                             std::string(1, '\0'),
+                                             "\\footnote ",
+                                             "\\ansicpg0"};
+    for (std::uint32_t round = 0; round < Rounds(); ++round) {
+        std::string rtf = MakeDocument(random).rtf;
+        for (std::size_t changes = 1 + random.Below(6); changes > 0; --changes) {
+            const std::size_t at = random.Below(rtf.size() + 1);
+            switch (random.Below(4)) {
+                case 0:
+                    rtf.insert(at, random.Pick(pieces));
+                    break;
+                case 1:
+                    rtf.erase(at, random.Below(20));
+                    break;
+                case 2:
+                    rtf.insert(at, rtf.substr(random.Below(rtf.size() + 1), random.Below(40)));
+                    break;
+                default:
+                    rtf.resize(at);
+                    break;
+            }
+        }
+        // Every unit of text takes a byte of the document at least.
+        ASSERT_LE(RtfToText(rtf).size(), rtf.size()) << rtf;
+    }
+}
+
+}  // namespace
+}  // namespace wordhawk
