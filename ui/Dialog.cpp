@@ -1,10 +1,11 @@
 #include "ui/Dialog.h"
 
+#include "platform/text.h"
+
 #include <array>
 #include <cstddef>
 #include <cstring>
 #include <string>
-#include <string_view>
 
 namespace wordhawk {
 namespace {
@@ -133,7 +134,7 @@ void Dialog::ApplyFonts() {
             wchar_t name[32]{};
             GetClassNameW(child, name, static_cast<int>(std::size(name)));
             // To a rich text box a font is a format: it would change the document.
-            if (!std::wstring_view(name).starts_with(L"RICHEDIT")) {
+            if (!EqualIgnoringCase(name, L"RICHEDIT50W")) {
                 SendMessageW(child, WM_SETFONT, static_cast<WPARAM>(font), TRUE);
             }
             return TRUE;

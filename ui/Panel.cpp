@@ -24,6 +24,7 @@ Panel::Reply Panel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORSTATIC:
+        case WM_CONTEXTMENU:
         case WM_DROPFILES:
             return SendMessageW(GetParent(handle_), message, wparam, lparam);
         case WM_ERASEBKGND: {

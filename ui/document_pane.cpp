@@ -241,11 +241,14 @@ void DocumentPane::ApplyTheme() {
     look_.text = std::nullopt;
     if (!paper && theme_.Dark()) look_.text = theme_.Use().field_text;
     const OwnEdit own(own_edits_);
+    const bool could_undo = CanUndo();
     if (rich_) {
         rtbW.SetBackground(look_.background);
     } else {
         rtbW.SetLook(look_);
     }
+    // To the control a colour is an edit.
+    if (!could_undo) rtbW.ForgetUndo();
 }
 
 void DocumentPane::LoadPlainText(DocumentText document) {

@@ -45,12 +45,10 @@ bool LooksRich(std::wstring_view text) {
 
 }  // namespace
 
-RichEdit::~RichEdit() {
-    if (library_ != nullptr) FreeLibrary(library_);
-}
-
 void RichEdit::Create(const Where& where) {
-    if (library_ == nullptr) library_ = LoadLibraryW(L"msftedit.dll");
+    // For the life of the process: windows of its class outlive this object.
+    static const HMODULE library = LoadLibraryW(L"msftedit.dll");
+    static_cast<void>(library);
     where_ = where;
     // No drag and drop of objects: files dropped here go to the form, objects nowhere.
     Make(where, MSFTEDIT_CLASS,

@@ -13,7 +13,6 @@ namespace wordhawk {
 class RichEdit : public Control {
   public:
     RichEdit() : Control(L"RichTextBox") {}
-    ~RichEdit() override;
     void Create(const Where& where);
     /// Puts an empty control in the old one's place. Emptying a large document instead can take
     /// minutes, as some systems unlink it paragraph by paragraph.
@@ -64,7 +63,6 @@ class RichEdit : public Control {
   private:
     void SetUp();
 
-    HMODULE library_ = nullptr;
     Where where_{};
 };
 
