@@ -38,7 +38,7 @@ class ConsoleMode {
     ConsoleMode& operator=(const ConsoleMode&) = delete;
 
   private:
-    unsigned page_before_ = 0;
+    [[maybe_unused]] unsigned page_before_ = 0;  // of the Windows console
 };
 
 }  // namespace wordhawk

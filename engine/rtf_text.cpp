@@ -1,5 +1,6 @@
 #include "engine/rtf_text.h"
 
+#include "engine/rtf_vocabulary.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -15,101 +16,6 @@ constexpr std::size_t kDeepestGroup = 1000;
 constexpr std::size_t kMostFonts = 10000;
 constexpr std::size_t kLongestControlWord = 32;
 
-/// Destinations whose content is no text of the document. Those that writers mark with \* need no
-/// entry; these also come without the mark.
-constexpr std::array<std::string_view, 43> kTextless = {"aftncn",
-                                                        "aftnsep",
-                                                        "aftnsepc",
-                                                        "atnauthor",
-                                                        "atnid",
-                                                        "author",
-                                                        "bkmkend",
-                                                        "bkmkstart",
-                                                        "colorschememapping",
-                                                        "colortbl",
-                                                        "datastore",
-                                                        "do",
-                                                        "falt",
-                                                        "filetbl",
-                                                        "fldinst",
-                                                        "fontemb",
-                                                        "fontfile",
-                                                        "ftncn",
-                                                        "ftnsep",
-                                                        "ftnsepc",
-                                                        "generator",
-                                                        "info",
-                                                        "latentstyles",
-                                                        "leveltext",
-                                                        "listoverridetable",
-                                                        "listtable",
-                                                        "listtext",
-                                                        "nonesttables",
-                                                        "nonshppict",
-                                                        "objdata",
-                                                        "operator",
-                                                        "panose",
-                                                        "pict",
-                                                        "pntext",
-                                                        "revtbl",
-                                                        "rxe",
-                                                        "shprslt",
-                                                        "sp",
-                                                        "stylesheet",
-                                                        "tc",
-                                                        "themedata",
-                                                        "txe",
-                                                        "xe"};
-
-/// Destinations with text of their own, apart from the paragraph that they stand in.
-constexpr std::array<std::string_view, 10> kSeparate = {"footer",   "footerf", "footerl", "footerr",
-                                                        "footnote", "header",  "headerf", "headerl",
-                                                        "headerr",  "shptxt"};
-
-static_assert(std::is_sorted(kTextless.begin(), kTextless.end()));
-static_assert(std::is_sorted(kSeparate.begin(), kSeparate.end()));
-
-struct Symbol {
-    std::string_view word;
-    wchar_t character;
-};
-
-constexpr std::array<Symbol, 22> kSymbols = {{
-    {"bullet", 0x2022},    {"cell", L'\t'},    {"column", L'\n'},   {"emdash", 0x2014},
-    {"emspace", 0x2003},   {"endash", 0x2013}, {"enspace", 0x2002}, {"ldblquote", 0x201C},
-    {"line", L'\n'},       {"lquote", 0x2018}, {"ltrmark", 0x200E}, {"nestcell", L'\t'},
-    {"nestrow", L'\n'},    {"page", L'\n'},    {"par", L'\n'},      {"qmspace", 0x2005},
-    {"rdblquote", 0x201D}, {"row", L'\n'},     {"rquote", 0x2019},  {"rtlmark", 0x200F},
-    {"sect", L'\n'},       {"tab", L'\t'},
-}};
-
-int PageOfCharset(int charset, int document_page) {
-    switch (charset) {
-        case 0:
-            return 1252;
-        case 161:
-            return 1253;
-        case 162:
-            return 1254;
-        case 163:
-            return 1258;
-        case 177:
-            return 1255;
-        case 178:
-            return 1256;
-        case 186:
-            return 1257;
-        case 204:
-            return 1251;
-        case 222:
-            return 874;
-        case 238:
-            return 1250;
-        default:
-            return document_page;
-    }
-}
-
 int HexDigit(char c) {
     if (c >= '0' && c <= '9') return c - '0';
     if (c >= 'a' && c <= 'f') return c - 'a' + 10;
@@ -117,17 +23,8 @@ int HexDigit(char c) {
     return -1;
 }
 
-bool IsLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-template <std::size_t N>
-bool Holds(const std::array<std::string_view, N>& sorted, std::string_view word) {
-    return std::binary_search(sorted.begin(), sorted.end(), word);
-}
+bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 class Reader {
   public:
@@ -154,21 +51,12 @@ class Reader {
     void Step() {
         const char c = rtf_[at_++];
         switch (c) {
-            case '{':
-                OpenGroup();
-                break;
-            case '}':
-                CloseGroup();
-                break;
-            case '\\':
-                Control();
-                break;
+            case '{': OpenGroup(); break;
+            case '}': CloseGroup(); break;
+            case '\\': Control(); break;
             case '\r':
-            case '\n':
-                break;
-            default:
-                Byte(static_cast<unsigned char>(c));
-                break;
+            case '\n': break;
+            default: Byte(static_cast<unsigned char>(c)); break;
         }
     }
 
@@ -218,24 +106,13 @@ class Reader {
         switch (symbol) {
             case '\\':
             case '{':
-            case '}':
-                Append(symbol);
-                break;
-            case '~':
-                Append(0x00A0);
-                break;
-            case '_':
-                Append(L'-');
-                break;  // a hyphen that holds its line: splits words like any
-            case '\t':
-                Append(L'\t');
-                break;
+            case '}': Append(symbol); break;
+            case '~': Append(0x00A0); break;
+            case '_': Append(L'-'); break;  // a hyphen that holds its line: splits words like any
+            case '\t': Append(L'\t'); break;
             case '\r':
-            case '\n':
-                Append(L'\n');
-                break;
-            default:
-                break;  // "\-" among them: a place where a word may be cut, no character of it
+            case '\n': Append(L'\n'); break;
+            default: break;  // "\-" among them: a place where a word may be cut, no character of it
         }
     }
 
@@ -299,10 +176,10 @@ class Reader {
         } else if (word == "upr") {
             group_.either_form = !group_.skip;
             group_.skip = true;
-        } else if (Holds(kSeparate, word)) {
+        } else if (IsSeparateDestination(word)) {
             if (!group_.skip) Append(L'\n');
             group_.separate = true;
-        } else if (Holds(kTextless, word)) {
+        } else if (IsTextlessDestination(word)) {
             group_.skip = true;
         } else {
             return false;
@@ -336,9 +213,7 @@ class Reader {
             document_page_ = value;
             group_.page = &AnsiCodePage::Get(value);
         } else {
-            const auto symbol = std::find_if(kSymbols.begin(), kSymbols.end(),
-                                             [&](const Symbol& s) { return s.word == word; });
-            if (symbol != kSymbols.end()) Append(symbol->character);
+            if (const wchar_t symbol = CharacterOfWord(word)) Append(symbol);
         }
     }
 
@@ -396,12 +271,8 @@ class Reader {
 
 }  // namespace
 
-bool LooksLikeRtf(std::string_view bytes) {
-    return bytes.starts_with("{\\rtf");
-}
+bool LooksLikeRtf(std::string_view bytes) { return bytes.starts_with("{\\rtf"); }
 
-std::wstring RtfToText(std::string_view rtf) {
-    return Reader(rtf).Read();
-}
+std::wstring RtfToText(std::string_view rtf) { return Reader(rtf).Read(); }
 
 }  // namespace wordhawk

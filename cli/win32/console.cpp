@@ -1,11 +1,10 @@
 #include "cli/console.h"
 
 #include "platform/text.h"
+#include "platform/win32/win.h"
 
 #include <fcntl.h>
 #include <io.h>
-#include <windows.h>
-// after windows.h
 #include <shellapi.h>
 
 #include <algorithm>
@@ -53,9 +52,7 @@ std::vector<std::string> CommandLineArguments(int, char**) {
     return arguments;
 }
 
-Path PathFromArgument(const std::string& argument) {
-    return PathFromText(FromUtf8(argument));
-}
+Path PathFromArgument(const std::string& argument) { return PathFromText(FromUtf8(argument)); }
 
 std::FILE* OpenForReading(const Path& path) {
     std::FILE* const file = _wfopen(path.c_str(), L"rb");
