@@ -50,8 +50,9 @@ bool PipeSession::HandleCommand(std::wstring_view line) {
     switch (line.front()) {
         case L'*':
         case L'&':
-            if (!word.empty()) {
-                accepted_.insert(Lower(word));
+            if (!word.empty()) accepted_.insert(Lower(word));
+            // One word that cannot be saved must not keep the others from it.
+            if (ObjectionTo(word, program_.dictionaries.Page()).empty()) {
                 personal_.push_back(Lower(word));
             }
             return true;

@@ -32,6 +32,20 @@ std::wstring TextOfBytes(std::string_view bytes, const AnsiCodePage& page) {
     return IsUtf8(bytes) ? FromUtf8(bytes) : page.Decode(bytes);
 }
 
+std::string ObjectionTo(std::wstring_view word, const AnsiCodePage& page) {
+    if (word.empty()) return "an empty word cannot be added";
+    for (const wchar_t c : word) {
+        if (static_cast<std::uint32_t>(c) < 0x20 || c == L',') {
+            return "a word with a comma or a control character cannot be added";
+        }
+        if (page.ToByteOrNone(LowerChar(c)) < 0) {
+            return "the dictionaries of this language, in code page " +
+                   std::to_string(page.Number()) + ", cannot hold the word";
+        }
+    }
+    return {};
+}
+
 Result<void> ForEachWord(const WordOptions& options, const AnsiCodePage& page,
                          const std::function<void(std::wstring_view)>& sink) {
     const auto give = [&](std::string_view bytes) {

@@ -28,6 +28,9 @@ class InputLines {
 /// A line or argument as text: UTF-8, else the ANSI page.
 std::wstring TextOfBytes(std::string_view bytes, const AnsiCodePage& page);
 
+/// Why a dictionary cannot hold the word; empty when it can.
+std::string ObjectionTo(std::wstring_view word, const AnsiCodePage& page);
+
 /// Calls `sink` for the words of the options, then for those of standard input when it was asked
 /// for: trimmed, without empty ones. Errors: reading failed.
 Result<void> ForEachWord(const WordOptions& options, const AnsiCodePage& page,

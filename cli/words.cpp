@@ -8,21 +8,6 @@
 namespace wordhawk {
 namespace {
 
-/// Why a dictionary line cannot hold the word; empty when it can.
-std::string Objection(std::wstring_view word, const AnsiCodePage& page) {
-    if (word.empty()) return "an empty word cannot be added";
-    for (const wchar_t c : word) {
-        if (static_cast<std::uint32_t>(c) < 0x20 || c == L',') {
-            return "a word with a comma or a control character cannot be added";
-        }
-        if (page.ToByteOrNone(LowerChar(c)) < 0) {
-            return "the dictionaries of this language, in code page " +
-                   std::to_string(page.Number()) + ", cannot hold the word";
-        }
-    }
-    return {};
-}
-
 int Fail(const std::string& line) {
     ShowMessageLine(line);
     return kExitFailed;
@@ -36,7 +21,7 @@ int RunAdd(const GlobalOptions& global, const AddOptions& options) {
     std::vector<std::wstring> words;
     for (const std::string& argument : options.words) {
         const std::wstring text = TextOfBytes(argument, store.Page());
-        const std::string objection = Objection(Trim(text), store.Page());
+        const std::string objection = ObjectionTo(Trim(text), store.Page());
         if (!objection.empty()) return Fail(MessageLine(argument, objection));
         words.emplace_back(Trim(text));
     }

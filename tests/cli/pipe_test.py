@@ -53,7 +53,7 @@ class Pipe(CliTest):
     def test_saves_personal_words_when_told(self):
         self.talk("*Zzqq\n@session\n")
         self.assertIsNone(self.custom())
-        self.assertEqual(self.talk("*Hawk\n&Éclair\n#\nhawk éclair zzqq\n"), "*\n*\n# zzqq 12\n\n")
+        self.assertEqual(self.talk("*Hawk\n*a,b\n*żółw\n&Éclair\n#\nhawk éclair zzqq\n"), "*\n*\n# zzqq 12\n\n")
         self.assertEqual(self.custom(), "hawk,72000\r\néclair,20124\r\n".encode("cp1252"))
         self.assertEqual(self.talk("hawk\n"), "*\n\n")
 
