@@ -94,14 +94,12 @@ void DictionaryFile::BuildIndex() const {
     const char* const end = begin + bytes_.size();
     for (const char* start = begin; start != end;) {
         const char* at = start;
-        std::uint32_t hash = kHashSeed;
-        while (at != end && !kStopsEntry[static_cast<unsigned char>(*at)]) {
-            hash = AddToHash(hash, static_cast<unsigned char>(*at++));
-        }
+        while (at != end && !kStopsEntry[static_cast<unsigned char>(*at)]) ++at;
         if (at == end) break;
         if (*at == ',' || (*at == '\r' && start != begin)) {
             const auto place = static_cast<std::uint32_t>(1 + 2 * (start - begin) + (*at == '\r'));
-            entries.push_back({FinishHash(hash), place});
+            const std::string_view word(start, static_cast<std::size_t>(at - start));
+            entries.push_back({HashBytes(word), place});
         }
         start = BehindNextLineFeed(at, end);
     }

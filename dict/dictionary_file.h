@@ -4,6 +4,7 @@
 #include "platform/text.h"
 
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -60,18 +61,29 @@ class DictionaryFile {
     /// The same for a word without comma, CR and LF whose HashBytes is already known.
     bool ContainsHashed(std::string_view word, std::uint32_t hash, EntryForms forms) const;
 
-    /// Hash of a whole word; its streaming form starts with kHashSeed, adds byte by byte and ends
-    /// with FinishHash.
-    static constexpr std::uint32_t HashBytes(std::string_view word) {
-        std::uint32_t hash = kHashSeed;
-        for (const char c : word) hash = AddToHash(hash, static_cast<unsigned char>(c));
-        return FinishHash(hash);
+    /// Hash of a word, eight bytes a step.
+    static std::uint32_t HashBytes(std::string_view word) {
+        const char* const bytes = word.data();
+        const std::size_t size = word.size();
+        std::uint64_t hash = size;
+        if (size >= 8) {
+            for (std::size_t i = 0; i + 8 < size; i += 8)
+                hash = Mix(hash, Load<std::uint64_t>(bytes + i));
+            return static_cast<std::uint32_t>(Mix(hash, Load<std::uint64_t>(bytes + size - 8)) >>
+                                              32);
+        }
+        // Overlapping loads cover the word whatever its length.
+        std::uint64_t all = 0;
+        if (size >= 4) {
+            all = Load<std::uint32_t>(bytes) | std::uint64_t{Load<std::uint32_t>(bytes + size - 4)}
+                                                   << 32;
+        } else if (size > 0) {
+            all = static_cast<unsigned char>(bytes[0]) |
+                  std::uint64_t{static_cast<unsigned char>(bytes[size / 2])} << 8 |
+                  std::uint64_t{static_cast<unsigned char>(bytes[size - 1])} << 16;
+        }
+        return static_cast<std::uint32_t>(Mix(hash, all) >> 32);
     }
-    static constexpr std::uint32_t kHashSeed = 2166136261u;
-    static constexpr std::uint32_t AddToHash(std::uint32_t hash, unsigned char byte) {
-        return (hash ^ byte) * 16777619u;
-    }
-    static constexpr std::uint32_t FinishHash(std::uint32_t hash) { return hash ^ (hash >> 15); }
 
     /// Candidates for suggestions; `page` gives keys to lines without one.
     const CandidateList& Candidates(const AnsiCodePage& page) const;
@@ -88,6 +100,17 @@ class DictionaryFile {
         std::size_t Offset() const { return (place - 1) >> 1; }
         bool IsBare() const { return ((place - 1) & 1) != 0; }
     };
+    template <class Number>
+    static Number Load(const char* bytes) {
+        Number number;
+        std::memcpy(&number, bytes, sizeof number);
+        return number;
+    }
+    static std::uint64_t Mix(std::uint64_t hash, std::uint64_t next) {
+        const std::uint64_t mixed = (hash ^ next) * 0x9E3779B97F4A7C15u;
+        return mixed ^ (mixed >> 29);
+    }
+
     void BuildIndex() const;
     void AddToIndex(Slot slot) const;
     bool Holds(const Slot& slot, std::string_view word) const;

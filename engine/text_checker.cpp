@@ -11,7 +11,10 @@ constexpr std::size_t kMostKnownVerdicts = 50'000;
 TextChecker::TextChecker(DictionaryStore& store, const SplitRules& rules)
     : store_(store),
       scope_(store.CurrentSettings().SuggFromMain != 0 ? Scope::MainOnly : Scope::MainAndCustom),
-      scanner_(rules, store.Page()) {}
+      scanner_(rules, store.Page()) {
+    // The quick look goes past the store's own check for a changed language.
+    store_.SyncWithState();
+}
 
 std::int64_t TextChecker::IndexOfUnknown(std::wstring_view text) {
     lower_.assign(text);

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <numeric>
 #include <span>
 
 namespace wordhawk {
@@ -145,7 +146,7 @@ constexpr CaseRange kUpperRanges[] = {
 
 std::unique_ptr<CaseTable> MakeTable(std::span<const CaseRange> ranges) {
     auto table = std::make_unique<CaseTable>();
-    for (std::size_t c = 0; c < table->size(); ++c) (*table)[c] = static_cast<std::uint16_t>(c);
+    std::iota(table->begin(), table->end(), std::uint16_t{0});
     for (const CaseRange& range : ranges) {
         for (unsigned c = range.first; c <= range.last; c += range.stride) {
             (*table)[c] = static_cast<std::uint16_t>(static_cast<std::int32_t>(c) + range.delta);

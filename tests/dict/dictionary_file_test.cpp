@@ -79,12 +79,6 @@ TEST(DictionaryFile, IndexAnswersAsTheByteSearch) {
     EXPECT_GT(hits, 10'000);
 }
 
-TEST(DictionaryFile, HashOfStreamIsHashOfWord) {
-    std::uint32_t hash = DictionaryFile::kHashSeed;
-    for (const unsigned char c : std::string("na\xEFve")) hash = DictionaryFile::AddToHash(hash, c);
-    EXPECT_EQ(DictionaryFile::FinishHash(hash), DictionaryFile::HashBytes("na\xEFve"));
-}
-
 TEST(DictionaryFile, CountsLinesThatHoldSomething) {
     EXPECT_EQ(DictionaryFile("a,1\r\n\r\nb\nc").CountEntries(), 3u);
     EXPECT_EQ(DictionaryFile().CountEntries(), 0u);
