@@ -6,6 +6,7 @@
 #include <array>
 #include <bit>
 #include <cstring>
+#include <functional>
 #include <limits>
 
 namespace wordhawk {
@@ -42,16 +43,22 @@ const char* BehindNextLineFeed(const char* at, const char* end) {
     return feed != nullptr ? feed + 1 : end;
 }
 
-/// The lookup by its definition, for the words and files that the index does not cover.
+bool HoldsPattern(std::string_view bytes, std::string_view pattern) {
+    const std::boyer_moore_horspool_searcher searcher(pattern.begin(), pattern.end());
+    return std::search(bytes.begin(), bytes.end(), searcher) != bytes.end();
+}
+
+/// The lookup by its definition, for the words and files that the index does not cover and for the
+/// first word asked of a file, which alone is not worth an index.
 bool FoundInBytes(std::string_view bytes, std::string_view word, EntryForms forms) {
     std::string pattern;
     pattern.reserve(word.size() + 2);
     pattern.append("\n").append(word).append(",");
-    if (bytes.find(pattern) != std::string_view::npos) return true;
+    if (HoldsPattern(bytes, pattern)) return true;
     if (bytes.substr(0, word.size() + 1) == std::string_view(pattern).substr(1)) return true;
     if (forms == EntryForms::KeyedOnly) return false;
     pattern.back() = '\r';
-    return bytes.find(pattern) != std::string_view::npos;
+    return HoldsPattern(bytes, pattern);
 }
 
 }  // namespace
@@ -66,7 +73,13 @@ bool DictionaryFile::Contains(std::string_view word, EntryForms forms) const {
 
 bool DictionaryFile::ContainsHashed(std::string_view word, std::uint32_t hash,
                                     EntryForms forms) const {
-    if (!indexed_) BuildIndex();
+    if (!indexed_) {
+        if (!asked_) {
+            asked_ = true;
+            return FoundInBytes(bytes_, word, forms);
+        }
+        BuildIndex();
+    }
     if (slots_.empty())
         return bytes_.size() > kMostIndexedBytes && FoundInBytes(bytes_, word, forms);
     const std::size_t mask = slots_.size() - 1;

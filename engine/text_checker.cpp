@@ -1,5 +1,8 @@
 #include "engine/text_checker.h"
 
+#include <new>
+#include <type_traits>
+
 namespace wordhawk {
 namespace {
 
@@ -14,6 +17,13 @@ TextChecker::TextChecker(DictionaryStore& store, const SplitRules& rules)
       scanner_(rules, store.Page()) {
     // The quick look goes past the store's own check for a changed language.
     store_.SyncWithState();
+}
+
+std::unique_ptr<PackedWord[], TextChecker::Free> TextChecker::MakeRecent() {
+    static_assert(std::is_trivially_copyable_v<PackedWord>);
+    void* const zeroed = std::calloc(std::size_t{1} << kRecentBits, sizeof(PackedWord));
+    if (zeroed == nullptr) throw std::bad_alloc();
+    return std::unique_ptr<PackedWord[], Free>(static_cast<PackedWord*>(zeroed));
 }
 
 std::int64_t TextChecker::IndexOfUnknown(std::wstring_view text) {

@@ -4,6 +4,8 @@
 #include "engine/word_scanner.h"
 
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -79,14 +81,21 @@ class TextChecker {
         }
     };
 
-    // A few thousand words make up nearly all of any text; these stay in the processor's cache.
-    static constexpr int kRecentBits = 12;
+    // Some ten thousand words make up nearly all of any text; these stay in the processor's cache.
+    static constexpr int kRecentBits = 15;
+
+    struct Free {
+        void operator()(PackedWord* words) const { std::free(words); }
+    };
+    /// Zeroed memory that the system provides page by page as it is used, so that a short text does
+    /// not pay for it.
+    static std::unique_ptr<PackedWord[], Free> MakeRecent();
 
     DictionaryStore& store_;
     Scope scope_;
     WordScanner scanner_;
     /// Words lately found in the main dictionary, each in the place that its bytes choose.
-    std::vector<PackedWord> recent_ = std::vector<PackedWord>(std::size_t{1} << kRecentBits);
+    std::unique_ptr<PackedWord[], Free> recent_ = MakeRecent();
     std::wstring lower_;
     std::vector<std::wstring> words_;
     /// Lower-cased words that needed more than the quick look: index in the list, or -1.
