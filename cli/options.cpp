@@ -40,8 +40,8 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& global, RawOverrides& raw) {
     app.add_option("--data", global.data_folder, "Data folder (default: the user's own)")
         ->type_name("DIR");
     app.add_option("--locale", global.locale,
-                   "Locale number whose dictionaries are used, such as 1033 or 1031 (default: the "
-                   "system's)")
+                   "Stands for the system's locale number, such as 1033 or 1031; a language that "
+                   "the data folder has stored goes before it")
         ->type_name("N")
         ->check(Between(1, 65535));
     OneValueEachTime(app, "--set", raw.settings, "Use VALUE for setting KEY in this run")
@@ -91,7 +91,7 @@ void AddCheck(CLI::App& app, CheckOptions& check) {
         "Prints FILE:LINE:COLUMN: WORD -> SUGGESTION (SCORE%), ... for each unknown word.\n"
         "Exit code: 0 no unknown word, 1 some, 2 error.\n\nExamples:\n"
         "  wordhawk-cli check letter.txt report.rtf\n"
-        "  wordhawk-cli --locale 1031 check --list brief.txt\n"
+        "  wordhawk-cli --set Language=1031 check --list brief.txt\n"
         "  git log -1 --format=%B | wordhawk-cli check -\n"
         "  wordhawk-cli check -j 4 --json docs/*.txt > unknown.jsonl");
 }
@@ -270,7 +270,7 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
         "Each command has its own --help. Exit code: 0 fine, 1 unknown words found, 2 "
         "error.\n\nExamples:\n"
         "  wordhawk-cli check letter.txt\n  wordhawk-cli suggest recieve\n"
-        "  wordhawk-cli add Wordhawk\n  wordhawk-cli --locale 1031 check brief.rtf");
+        "  wordhawk-cli add Wordhawk\n  wordhawk-cli --set Language=1031 check brief.rtf");
 
     try {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
