@@ -16,7 +16,7 @@ import tempfile
 import time
 import unittest
 
-GOOD = """about all and are as at bird book boat but calm cat clear day deep door every fine for from garden
+GOOD = """about again all and are as at bird book boat but calm cat clear day deep door every fine for from garden
 glass good green hand happy have hill home house in is it lake letter light long man map more morning
 mountain new night of old on open our paper people quiet rain ready river road room sea sky small snow
 some stone story street summer sun table the time to town train tree under very wall warm water weather
