@@ -30,7 +30,9 @@ frmNewSpell::frmNewSpell(const Surroundings& surroundings)
       status_(*this, [this] { Rearrange(); }),
       suggestions_({*this, program_.dictionaries, program_.ui}),
       commands_({program_, desktop_, *this, suggestions_, status_, theme_,
-                 [this] { return handle_; }, [this](const SessionStep& step) { Finished(step); }}),
+                 [this] { return handle_; },
+                 [this](ProgressWindow* progress) { running_ = progress; },
+                 [this](const SessionStep& step) { Finished(step); }}),
       files_({program_, desktop_, document, commands_, status_}),
       menu_commands_({program_, desktop_, *this, menus_, commands_, suggestions_, status_}),
       geometry_(*this, surroundings.placement) {}
@@ -117,6 +119,7 @@ void frmNewSpell::Form_Load() {
     }
     commands_.UpdateButtons();
     ShowTitle();
+    loaded_ = true;
     Rearrange();
 }
 
@@ -149,6 +152,12 @@ void frmNewSpell::ApplyCaptions() {
     SetTextIds(*this, menus_);
     ApplyLanguage(program_.state, *this);
     SetComposedCaptions(program_.state, *this);
+    if (!loaded_) return;
+    // In another language the numbers stay what they are.
+    suggestions_.hsScore_Change();
+    suggestions_.ShowCount();
+    commands_.UpdateCounter();
+    Rearrange();
 }
 
 std::wstring frmNewSpell::Caption() const {
@@ -211,20 +220,36 @@ void frmNewSpell::CheckDocument() {
                                                            : text_id::kUnknownWords),
                            {std::to_wstring(count)}));
     }
-    if (close_when_done_) {
-        Unload();
-        return;
-    }
+    if (CloseIfAsked()) return;
     if (!correcting && !result.cancelled && !document.Empty()) {
         files_.SetClipboard();
         commands_.Announce(commands_.session.Notice());
     }
+    if (correcting) {
+        // From here on Enter means Change; in the document it would replace the selected word.
+        txtChgTo.SetFocus();
+        txtChgTo.SelectAll();
+    }
     KeepFocus();
 }
 
+void frmNewSpell::cmdAddAll_Click(int index) {
+    commands_.AddAll(static_cast<AddIndex>(index));
+    CloseIfAsked();
+}
+
+bool frmNewSpell::CloseIfAsked() {
+    if (!close_when_done_) return false;
+    Unload();
+    return true;
+}
+
 void frmNewSpell::Finished(const SessionStep& step) {
+    if (txtChgTo.HasFocus()) rtbW.SetFocus();
     files_.SetClipboard();
     commands_.Announce(step.notice);
+    // The box of the announcement lets messages through, and one may have closed the window.
+    if (handle_ == nullptr) return;
     if (step.close) tmrBye_.SetEnabled(handle_, true);
     KeepFocus();
 }

@@ -82,7 +82,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void cmdIgnore_Click() { commands_.Ignore(); }
     void cmdIgnoreAll_Click() { commands_.IgnoreAll(); }
     void cmdAdd_Click(int index) { commands_.Add(static_cast<AddIndex>(index)); }
-    void cmdAddAll_Click(int index) { commands_.AddAll(static_cast<AddIndex>(index)); }
+    void cmdAddAll_Click(int index);
     void cmdSuggestions_Click();
     void cmdCopyData_Click() { commands_.CopyData(); }
     void cmdCopyData_MouseDown() { commands_.CopyWord(); }
@@ -141,6 +141,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void SetWordPointer();
     void CheckDocument();
     void Finished(const SessionStep& step);
+    bool CloseIfAsked();
     void ShowCustomDictionaries();
     void ShowTitle();
     void KeepFocus();
@@ -166,8 +167,9 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     Subclass word_pointer_;
     ClosingTimer tmrBye_;
     HWND last_focus_ = nullptr;
-    /// The check that is letting messages through, if one is.
+    /// The check or long command that is letting messages through, if one is.
     ProgressWindow* running_ = nullptr;
+    bool loaded_ = false;
     bool close_when_done_ = false;
     bool save_back_failed_ = false;
 };

@@ -106,6 +106,11 @@ void SuggestionPane::SetCount(int count) {
                                                              static_cast<std::size_t>(count)));
 }
 
+void SuggestionPane::ShowCount() {
+    const int count = parts_.controls.lstSug.Count();
+    SetCount(count == 1 && IsPlaceholder(0) ? 0 : count);
+}
+
 bool SuggestionPane::IsPlaceholder(int index) const {
     return parts_.controls.lstSug.Item(index) == kNoSuggestions;
 }
