@@ -27,7 +27,7 @@ frmNewSpell::frmNewSpell(const Surroundings& surroundings)
       program_(surroundings.program),
       desktop_(surroundings.desktop),
       shared_(surroundings.shared),
-      status_(*this, [this] { Rearrange(); }),
+      status_(*this, [this] { Form_Resize(); }),
       suggestions_({*this, program_.dictionaries, program_.ui}),
       commands_({program_, desktop_, *this, suggestions_, status_, theme_,
                  [this] { return handle_; },
@@ -51,7 +51,7 @@ Dialog::Look frmNewSpell::WantedLook() const {
 }
 
 bool frmNewSpell::Show() {
-    modICCX::InitCommonControlsVB(modICCX::kAllClasses);
+    Form_Initialize();
     if (!Create(nullptr)) return false;
     geometry_.Restore(handle_, MeasureNow());
     ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
@@ -60,12 +60,16 @@ bool frmNewSpell::Show() {
     return true;
 }
 
+void frmNewSpell::Form_Initialize() {
+    modICCX::InitCommonControlsVB(modICCX::kAllClasses);
+}
+
 void frmNewSpell::OnInit() {
     tips_.Create(handle_);
     CreateAll(handle_, tips_);
     ApplyFonts();
     suggestions_.Attach();
-    drag_.Attach(*this, [this] { Rearrange(); });
+    drag_.Attach(*this, [this] { Form_Resize(); });
     copy_data_mouse_.Install(cmdCopyData.Handle(),
                              [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
                                  if (message != WM_RBUTTONDOWN) return {};
@@ -120,7 +124,7 @@ void frmNewSpell::Form_Load() {
     commands_.UpdateButtons();
     ShowTitle();
     loaded_ = true;
-    Rearrange();
+    Form_Resize();
 }
 
 void frmNewSpell::LoadSettings() {
@@ -139,7 +143,7 @@ void frmNewSpell::LoadSettings() {
     }
     menus_.CheckSearchMode(settings.SortBy);
     ShowCustomDictionaries();
-    Rearrange();
+    Form_Resize();
 }
 
 void frmNewSpell::ShowCustomDictionaries() {
@@ -157,7 +161,7 @@ void frmNewSpell::ApplyCaptions() {
     suggestions_.hsScore_Change();
     suggestions_.ShowCount();
     commands_.UpdateCounter();
-    Rearrange();
+    Form_Resize();
 }
 
 std::wstring frmNewSpell::Caption() const {
@@ -208,7 +212,7 @@ void frmNewSpell::CheckDocument() {
     }
     const std::size_t count = result.words.size();
     commands_.session.SetCompletionNotice(true);
-    const bool correcting = commands_.Begin(std::move(result.words));
+    const bool correcting = FindNextToStart(std::move(result.words));
     const ProgramState& state = program_.state;
     if (result.cancelled) {
         status_.Say(LoadResText(state, text_id::kCheckCancelled));

@@ -24,6 +24,8 @@ void SuggestionPane::Attach() {
         },
         [this, &c](UINT message) {
             if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSug, c.lstSco);
+            // A press on the entry that is selected already changes no selection.
+            if (message == WM_LBUTTONDOWN) TakeSelected();
         });
     scores_subclass_.Install(c.lstSco.Handle(), {}, [this, &c](UINT message) {
         if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSco, c.lstSug);
