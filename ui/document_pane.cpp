@@ -87,6 +87,10 @@ std::optional<LRESULT> DocumentPane::Filter(UINT message, WPARAM wparam, LPARAM 
         case WM_PASTE:
             Paste();
             return 0;
+        case WM_RBUTTONDOWN:
+            // The menu that follows works on the active control.
+            rtbW.SetFocus();
+            return {};
         case WM_RBUTTONUP: {
             POINT screen{static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))};
             ClientToScreen(rtbW.Handle(), &screen);

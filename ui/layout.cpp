@@ -245,7 +245,7 @@ class ButtonsNode : public Node {
         const int widest = Widest(measure);
         const int gap = measure.Scaled(gap_);
         int columns = columns_;
-        while (columns > 1 && columns * widest + (columns - 1) * gap > width) columns = (columns + 1) / 2;
+        while (columns > 1 && columns * widest + (columns - 1) * gap > width) --columns;
         return columns;
     }
 

@@ -134,8 +134,8 @@ void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
     NodePtr lists = Row(9, List(std::move(words), std::move(suggestions)), 4);
     NodePtr buttons = Buttons(5, 4, button_order_);
     // As high without its button as with it, so that nothing moves when the button comes.
-    NodePtr status = Row(5, List(Space({0, kButtonHeight - 2}), Text(lblStatus, 1),
-                                 Item(cmdUndoAdd, {0, kButtonHeight - 2}, 0, Fill::Centred)));
+    NodePtr status = Row(5, List(Item(lblStatus, {40, kButtonHeight - 2}, 1),
+                                 Item(cmdUndoAdd, {0, kButtonHeight - 2})));
     RECT area{};
     GetClientRect(pic1.Handle(), &area);
     NodePtr body;

@@ -61,7 +61,9 @@ void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_lis
     searched_ = word;
 
     following_ = true;
+    // A tip on the screen told of a suggestion for another word.
     tip_row_ = -1;
+    c.lstSug.SetToolTipText({});
     c.lstSug.Clear();
     c.lstSco.Clear();
     for (const Suggestion& suggestion : found.list) {
