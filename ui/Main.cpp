@@ -48,11 +48,6 @@ int Main() {
     Program program(options, ui);
     program.state.CommandFile = CommandFileFrom(Arguments());
 
-    // After an update that closed us, the system opens the document again.
-    if (!program.state.CommandFile.empty()) {
-        RegisterApplicationRestart((L"\"" + program.state.CommandFile + L"\"").c_str(), 0);
-    }
-
     SharedMainWindow shared;
     frmNewSpell window({program, desktop, shared});
     window.on_unloaded = [] { PostQuitMessage(0); };

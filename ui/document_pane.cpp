@@ -87,10 +87,6 @@ std::optional<LRESULT> DocumentPane::Filter(UINT message, WPARAM wparam, LPARAM 
         case WM_PASTE:
             Paste();
             return 0;
-        case WM_RBUTTONDOWN:
-            // The menu that follows works on the active control.
-            rtbW.SetFocus();
-            return {};
         case WM_RBUTTONUP: {
             POINT screen{static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))};
             ClientToScreen(rtbW.Handle(), &screen);
@@ -166,13 +162,13 @@ void DocumentPane::ReplaceAll(std::span<const std::size_t> starts, std::size_t l
     result.append(text_, from, std::wstring::npos);
     {
         const OwnEdit own(own_edits_);
-        rtbW.SetQuiet(true);
+        rtbW.SetRedraw(false);
         // From the end, so that the offsets before stay what they are.
         for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
             rtbW.Select({*start, length});
             rtbW.ReplaceSelection(text);
         }
-        rtbW.SetQuiet(false);
+        rtbW.SetRedraw(true);
     }
     text_ = std::move(result);
     ++revision_;
@@ -191,7 +187,7 @@ void DocumentPane::Undo() {
     if (!groups_.empty() && FingerprintOfText() == groups_.back().after) {
         const Group group = groups_.back();
         groups_.pop_back();
-        rtbW.SetQuiet(true);
+        rtbW.SetRedraw(false);
         for (std::size_t step = 0; step < group.steps && rtbW.Undo(); ++step) {
         }
         OnChanged();
@@ -199,7 +195,7 @@ void DocumentPane::Undo() {
             if (!rtbW.CanUndo() || !rtbW.Undo()) break;
             OnChanged();
         }
-        rtbW.SetQuiet(false);
+        rtbW.SetRedraw(true);
         rtbW.ScrollToCaret();
     } else {
         rtbW.Undo();

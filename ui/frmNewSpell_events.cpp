@@ -178,7 +178,7 @@ void frmNewSpell::OnInitMenu(HMENU menu) {
 // ---- looks ----
 
 void frmNewSpell::OnSize(int, int) {
-    Form_Resize();
+    Rearrange();
 }
 
 void frmNewSpell::OnMinimumSize(SIZE& smallest) {
@@ -191,7 +191,7 @@ void frmNewSpell::OnFontsChanged() {
     for (ComboBox* combo : {&cboChgTo, &cboDicts}) combo->SetItemHeight(height);
     cboChgTo.SetListWidth(Scaled(220));
     SendMessageW(lblNID.Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(BoldFont()), TRUE);
-    Form_Resize();
+    Rearrange();
 }
 
 void frmNewSpell::OnAppearanceChanged() {

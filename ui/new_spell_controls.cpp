@@ -133,9 +133,8 @@ void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
                 Row(4, List(Text(lblCnt, 1), Item(lblDum[2], {62, 0}, 0, Fill::Centred)))), 6);
     NodePtr lists = Row(9, List(std::move(words), std::move(suggestions)), 4);
     NodePtr buttons = Buttons(5, 4, button_order_);
-    // As high without its button as with it, so that nothing moves when the button comes.
-    NodePtr status = Row(5, List(Item(lblStatus, {40, kButtonHeight - 2}, 1),
-                                 Item(cmdUndoAdd, {0, kButtonHeight - 2})));
+    NodePtr status = Row(5, List(Text(lblStatus, 1),
+                                 Item(cmdUndoAdd, {0, kButtonHeight - 2}, 0, Fill::Centred)));
     RECT area{};
     GetClientRect(pic1.Handle(), &area);
     NodePtr body;

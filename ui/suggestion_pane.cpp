@@ -24,8 +24,6 @@ void SuggestionPane::Attach() {
         },
         [this, &c](UINT message) {
             if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSug, c.lstSco);
-            // A press on the entry that is selected already changes no selection.
-            if (message == WM_LBUTTONDOWN) TakeSelected();
         });
     scores_subclass_.Install(c.lstSco.Handle(), {}, [this, &c](UINT message) {
         if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSco, c.lstSug);
@@ -61,9 +59,7 @@ void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_lis
     searched_ = word;
 
     following_ = true;
-    // A tip on the screen told of a suggestion for another word.
     tip_row_ = -1;
-    c.lstSug.SetToolTipText({});
     c.lstSug.Clear();
     c.lstSco.Clear();
     for (const Suggestion& suggestion : found.list) {
@@ -108,11 +104,6 @@ void SuggestionPane::Select(int index) {
 void SuggestionPane::SetCount(int count) {
     parts_.controls.lblCnt.SetText(captions::SuggestionCount(parts_.dictionaries.State(),
                                                              static_cast<std::size_t>(count)));
-}
-
-void SuggestionPane::ShowCount() {
-    const int count = parts_.controls.lstSug.Count();
-    SetCount(count == 1 && IsPlaceholder(0) ? 0 : count);
 }
 
 bool SuggestionPane::IsPlaceholder(int index) const {

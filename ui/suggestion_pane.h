@@ -31,8 +31,6 @@ class SuggestionPane {
     /// was.
     void FillSuggestions(std::wstring_view word, SkipListed skip_listed, std::uint8_t search_mode);
     void Clear();
-    /// Writes the number of suggestions into its label, as the list is now.
-    void ShowCount();
 
     /// Takes the selected suggestion into the change-to box, in the case of the document's word.
     void TakeSelected();

@@ -34,8 +34,7 @@ class RichEdit : public Control {
     void Select(TextRange range);
     void ScrollToCaret() { Send(EM_SCROLLCARET); }
     void ReplaceSelection(std::wstring_view text);
-    /// Neither paints nor tells the form of changes meanwhile.
-    void SetQuiet(bool quiet);
+    void SetRedraw(bool on);
 
     bool CanUndo() const { return Send(EM_CANUNDO) != 0; }
     bool Undo() { return Send(EM_UNDO) != 0; }
