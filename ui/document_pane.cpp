@@ -221,7 +221,7 @@ void DocumentPane::Renew() {
         const OwnEdit own(own_edits_);
         rtbW.Renew();
     }
-    if (on_renewed) on_renewed(rtbW.Handle());
+    theme_.DecorateControl(rtbW.Handle());
     InstallFilter();
     groups_.clear();
     text_.clear();

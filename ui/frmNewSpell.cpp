@@ -27,7 +27,7 @@ frmNewSpell::frmNewSpell(const Surroundings& surroundings)
       program_(surroundings.program),
       desktop_(surroundings.desktop),
       shared_(surroundings.shared),
-      status_(*this, [this] { Rearrange(); }),
+      status_(*this),
       suggestions_({*this, program_.dictionaries, program_.ui}),
       commands_({program_, desktop_, *this, suggestions_, status_, theme_,
                  [this] { return handle_; }, [this](const SessionStep& step) { Finished(step); }}),
@@ -71,11 +71,6 @@ void frmNewSpell::OnInit() {
                                  return 0;
                              });
     SetWordPointer();
-    frames_.Attach(handle_);
-    document.on_renewed = [this](HWND control) {
-        frames_.AttachTo(control);
-        theme_.DecorateControl(control);
-    };
     theme_.Decorate(handle_);
     Form_Load();
 }

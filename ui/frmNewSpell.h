@@ -6,7 +6,6 @@
 #include "ui/button_drag.h"
 #include "ui/closing_timer.h"
 #include "ui/correction_commands.h"
-#include "ui/dark_frames.h"
 #include "ui/desktop.h"
 #include "ui/document_files.h"
 #include "ui/main_geometry.h"
@@ -151,7 +150,6 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     Desktop& desktop_;
     SharedMainWindow& shared_;
     Theme theme_;
-    DarkFrames frames_{theme_};
     ToolTips tips_;
     std::wstring tag_;
     MainMenus menus_;

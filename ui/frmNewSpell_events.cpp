@@ -189,7 +189,6 @@ void frmNewSpell::OnFontsChanged() {
     const int height = EntryHeight(Font(), Dpi());
     for (ListBox* list : {&lstNID, &lstSug, &lstSco}) list->SetItemHeight(height);
     for (ComboBox* combo : {&cboChgTo, &cboDicts}) combo->SetItemHeight(height);
-    cboChgTo.SetListWidth(Scaled(220));
     SendMessageW(lblNID.Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(BoldFont()), TRUE);
     Rearrange();
 }

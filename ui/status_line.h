@@ -2,7 +2,6 @@
 
 #include "ui/new_spell_controls.h"
 
-#include <functional>
 #include <string>
 
 namespace wordhawk {
@@ -13,9 +12,7 @@ class StatusLine {
   public:
     enum class Undo { None, LastAdd };
 
-    /// `arrange` gives the line and its button their places, when the button comes or goes.
-    StatusLine(NewSpellControls& controls, std::function<void()> arrange)
-        : controls_(controls), arrange_(std::move(arrange)) {}
+    explicit StatusLine(NewSpellControls& controls) : controls_(controls) {}
 
     /// `undo` offers to take the added word back.
     void Say(const std::wstring& text, Undo undo = Undo::None);
@@ -23,7 +20,6 @@ class StatusLine {
 
   private:
     NewSpellControls& controls_;
-    std::function<void()> arrange_;
 };
 
 }  // namespace wordhawk

@@ -16,27 +16,12 @@ namespace wordhawk {
 
 void SuggestionPane::Attach() {
     NewSpellControls& c = parts_.controls;
-    suggestions_subclass_.Install(
-        c.lstSug.Handle(),
-        [this](UINT message, WPARAM, LPARAM lparam) -> std::optional<LRESULT> {
-            if (message == WM_MOUSEMOVE) ShowTipUnderPointer(lparam);
-            return {};
-        },
-        [this, &c](UINT message) {
-            if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSug, c.lstSco);
-        });
+    suggestions_subclass_.Install(c.lstSug.Handle(), {}, [this, &c](UINT message) {
+        if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSug, c.lstSco);
+    });
     scores_subclass_.Install(c.lstSco.Handle(), {}, [this, &c](UINT message) {
         if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSco, c.lstSug);
     });
-}
-
-void SuggestionPane::ShowTipUnderPointer(LPARAM position) {
-    ListBox& list = parts_.controls.lstSug;
-    const POINT point{static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
-    const int row = list.At(point).value_or(-1);
-    if (row == tip_row_) return;
-    tip_row_ = row;
-    list.SetToolTipText(Explanation(row));
 }
 
 // A list box tells nobody when it scrolls, whatever made it scroll; so after every message.
@@ -59,7 +44,6 @@ void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_lis
     searched_ = word;
 
     following_ = true;
-    tip_row_ = -1;
     c.lstSug.Clear();
     c.lstSco.Clear();
     for (const Suggestion& suggestion : found.list) {

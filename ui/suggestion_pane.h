@@ -64,7 +64,6 @@ class SuggestionPane {
     void ShowNone();
     void Select(int index);
     void SetCount(int count);
-    void ShowTipUnderPointer(LPARAM position);
     void FollowScroll(const ListBox& leader, ListBox& follower);
     bool IsPlaceholder(int index) const;
     std::wstring PaddedScore(std::int32_t percent) const;
@@ -73,7 +72,6 @@ class SuggestionPane {
     Subclass suggestions_subclass_;
     Subclass scores_subclass_;
     bool following_ = false;
-    int tip_row_ = -1;
     std::wstring searched_;
 };
 

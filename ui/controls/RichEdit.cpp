@@ -53,7 +53,8 @@ void RichEdit::Create(const Where& where) {
     // No drag and drop of objects: files dropped here go to the form, objects nowhere.
     Make(where, MSFTEDIT_CLASS,
          WS_TABSTOP | WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN |
-             ES_NOOLEDRAGDROP | WS_BORDER);
+             ES_NOOLEDRAGDROP,
+         WS_EX_CLIENTEDGE);
     SetUp();
 }
 
