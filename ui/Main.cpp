@@ -48,8 +48,14 @@ int Main() {
     Program program(options, ui);
     program.state.CommandFile = CommandFileFrom(Arguments());
 
+    // After an update that closed us, the system opens the document again.
+    if (!program.state.CommandFile.empty()) {
+        RegisterApplicationRestart((L"\"" + program.state.CommandFile + L"\"").c_str(), 0);
+    }
+
     SharedMainWindow shared;
     frmNewSpell window({program, desktop, shared});
+    ui.owner = [&window] { return window.Handle(); };
     window.on_unloaded = [] { PostQuitMessage(0); };
     if (!window.Show()) return 1;
     return RunMessageLoop(window);

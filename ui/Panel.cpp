@@ -3,13 +3,13 @@
 namespace wordhawk {
 
 bool Panel::CreateIn(HWND form, int id) {
-    Spec spec;
-    spec.class_name = L"WordhawkPanel";
-    spec.style = WS_CHILD | WS_CLIPCHILDREN;
-    spec.extended_style = WS_EX_CONTROLPARENT;
-    spec.parent = form;
-    spec.id = id;
-    return Create(spec);
+    Creation creation;
+    creation.class_name = L"WordhawkPanel";
+    creation.style = WS_CHILD | WS_CLIPCHILDREN;
+    creation.extended_style = WS_EX_CONTROLPARENT;
+    creation.parent = form;
+    creation.id = id;
+    return Create(creation);
 }
 
 Panel::Reply Panel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -25,8 +25,7 @@ Panel::Reply Panel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORSTATIC:
         case WM_CONTEXTMENU:
-        case WM_DROPFILES:
-            return SendMessageW(GetParent(handle_), message, wparam, lparam);
+        case WM_DROPFILES: return SendMessageW(GetParent(handle_), message, wparam, lparam);
         case WM_ERASEBKGND: {
             // The form knows the colour behind its controls.
             const LRESULT brush = SendMessageW(GetParent(handle_), WM_CTLCOLORDLG, wparam,
@@ -37,8 +36,7 @@ Panel::Reply Panel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             FillRect(reinterpret_cast<HDC>(wparam), &area, reinterpret_cast<HBRUSH>(brush));
             return 1;
         }
-        default:
-            return {};
+        default: return {};
     }
 }
 

@@ -9,22 +9,23 @@ Window::~Window() {
     DestroyWindow(handle_);
 }
 
-bool Window::Create(const Spec& spec) {
+bool Window::Create(const Creation& creation) {
     WNDCLASSEXW known{};
     known.cbSize = sizeof known;
     const HINSTANCE module = GetModuleHandleW(nullptr);
-    if (!GetClassInfoExW(module, spec.class_name, &known)) {
+    if (!GetClassInfoExW(module, creation.class_name, &known)) {
         WNDCLASSEXW made{};
         made.cbSize = sizeof made;
         made.lpfnWndProc = Procedure;
         made.hInstance = module;
         made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
         made.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-        made.lpszClassName = spec.class_name;
+        made.lpszClassName = creation.class_name;
         RegisterClassExW(&made);
     }
-    CreateWindowExW(spec.extended_style, spec.class_name, L"", spec.style, 0, 0, 0, 0, spec.parent,
-                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(spec.id)), module, this);
+    CreateWindowExW(creation.extended_style, creation.class_name, L"", creation.style, 0, 0, 0, 0,
+                    creation.parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(creation.id)),
+                    module, this);
     return handle_ != nullptr;
 }
 

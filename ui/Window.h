@@ -10,7 +10,7 @@ class Window : public MessageHandler {
   public:
     ~Window() override;
 
-    struct Spec {
+    struct Creation {
         const wchar_t* class_name;
         DWORD style = WS_CHILD | WS_VISIBLE;
         DWORD extended_style = 0;
@@ -19,7 +19,7 @@ class Window : public MessageHandler {
     };
     /// Makes the window with no size, registering the class when it is new. False when the system
     /// refuses.
-    bool Create(const Spec& spec);
+    bool Create(const Creation& creation);
     /// Destroys the window; handlers still see its last messages.
     void Destroy();
 

@@ -5,7 +5,6 @@
 #include "engine/modSubs.h"
 #include "engine/suggestion_case.h"
 #include "lang/modLoadRes.h"
-#include "ui/progress_window.h"
 #include "ui/texts.h"
 
 #include <algorithm>
@@ -50,7 +49,9 @@ void CorrectionCommands::ChangeAll() {
 void CorrectionCommands::AddAll(AddIndex index) {
     ProgressWindow progress(parts_.program.state, parts_.theme, parts_.window(),
                             ProgressWindow::Appear::AtOnce);
+    parts_.running(&progress);
     const SessionStep step = session.AddAll(index, progress);
+    parts_.running(nullptr);
     progress.Hide();
     Run(step);
 }
@@ -117,6 +118,8 @@ void CorrectionCommands::ShowWord() {
 void CorrectionCommands::ShowSuggestions() {
     parts_.suggestions.FillSuggestions(session.CurrentWord(), SuggestionPane::SkipListed::No,
                                        parts_.program.settings.SortBy);
+    // Whoever types goes on typing: over the suggestion, not behind it.
+    if (parts_.controls.txtChgTo.HasFocus()) parts_.controls.txtChgTo.SelectAll();
 }
 
 void CorrectionCommands::TellScreenReader() {

@@ -4,6 +4,7 @@
 #include "engine/spell_session.h"
 #include "ui/desktop.h"
 #include "ui/new_spell_controls.h"
+#include "ui/progress_window.h"
 #include "ui/status_line.h"
 #include "ui/suggestion_pane.h"
 #include "ui/theme.h"
@@ -25,7 +26,9 @@ class CorrectionCommands {
         const Theme& theme;
         /// Owner of boxes and of the progress window.
         std::function<HWND()> window;
-        /// The list was worked off and that was announced.
+        /// A command lets messages through from now on; null: it is over.
+        std::function<void(ProgressWindow*)> running;
+        /// The list was worked off: to be announced.
         std::function<void(const SessionStep&)> finished;
     };
     explicit CorrectionCommands(Parts parts);
@@ -54,6 +57,7 @@ class CorrectionCommands {
     void TakeWord();
 
     void UpdateButtons();
+    void UpdateCounter();
     /// The recent replacements in their box.
     void ShowRecent();
     /// Plays or shows the end of a check.
@@ -69,7 +73,6 @@ class CorrectionCommands {
     void ShowSuggestions();
     void Finish(const SessionStep& step);
     void TellOfAdd(const SessionStep& step);
-    void UpdateCounter();
     void TellScreenReader();
 
     Parts parts_;

@@ -87,6 +87,10 @@ std::optional<LRESULT> DocumentPane::Filter(UINT message, WPARAM wparam, LPARAM 
         case WM_PASTE:
             Paste();
             return 0;
+        case WM_RBUTTONDOWN:
+            // The menu that follows works on the active control.
+            rtbW.SetFocus();
+            return {};
         case WM_RBUTTONUP: {
             POINT screen{static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))};
             ClientToScreen(rtbW.Handle(), &screen);
@@ -162,13 +166,13 @@ void DocumentPane::ReplaceAll(std::span<const std::size_t> starts, std::size_t l
     result.append(text_, from, std::wstring::npos);
     {
         const OwnEdit own(own_edits_);
-        rtbW.SetRedraw(false);
+        rtbW.SetQuiet(true);
         // From the end, so that the offsets before stay what they are.
         for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
             rtbW.Select({*start, length});
             rtbW.ReplaceSelection(text);
         }
-        rtbW.SetRedraw(true);
+        rtbW.SetQuiet(false);
     }
     text_ = std::move(result);
     ++revision_;
@@ -187,7 +191,7 @@ void DocumentPane::Undo() {
     if (!groups_.empty() && FingerprintOfText() == groups_.back().after) {
         const Group group = groups_.back();
         groups_.pop_back();
-        rtbW.SetRedraw(false);
+        rtbW.SetQuiet(true);
         for (std::size_t step = 0; step < group.steps && rtbW.Undo(); ++step) {
         }
         OnChanged();
@@ -195,7 +199,7 @@ void DocumentPane::Undo() {
             if (!rtbW.CanUndo() || !rtbW.Undo()) break;
             OnChanged();
         }
-        rtbW.SetRedraw(true);
+        rtbW.SetQuiet(false);
         rtbW.ScrollToCaret();
     } else {
         rtbW.Undo();
@@ -221,7 +225,7 @@ void DocumentPane::Renew() {
         const OwnEdit own(own_edits_);
         rtbW.Renew();
     }
-    theme_.DecorateControl(rtbW.Handle());
+    if (on_renewed) on_renewed(rtbW.Handle());
     InstallFilter();
     groups_.clear();
     text_.clear();

@@ -9,6 +9,7 @@
 #include "ui/theme.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,6 +25,8 @@ class DocumentPane : public SpellDocument {
 
     void Create(const Control::Where& where);
     RichEdit rtbW;
+    /// Called when a fresh control has taken the place of rtbW's old one.
+    std::function<void(HWND)> on_renewed;
 
     // SpellDocument
     const std::wstring& Text() override;

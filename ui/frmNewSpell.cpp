@@ -27,10 +27,12 @@ frmNewSpell::frmNewSpell(const Surroundings& surroundings)
       program_(surroundings.program),
       desktop_(surroundings.desktop),
       shared_(surroundings.shared),
-      status_(*this),
+      status_(*this, [this] { Form_Resize(); }),
       suggestions_({*this, program_.dictionaries, program_.ui}),
       commands_({program_, desktop_, *this, suggestions_, status_, theme_,
-                 [this] { return handle_; }, [this](const SessionStep& step) { Finished(step); }}),
+                 [this] { return handle_; },
+                 [this](ProgressWindow* progress) { running_ = progress; },
+                 [this](const SessionStep& step) { Finished(step); }}),
       files_({program_, desktop_, document, commands_, status_}),
       menu_commands_({program_, desktop_, *this, menus_, commands_, suggestions_, status_}),
       geometry_(*this, surroundings.placement) {}
@@ -49,7 +51,7 @@ Dialog::Look frmNewSpell::WantedLook() const {
 }
 
 bool frmNewSpell::Show() {
-    modICCX::InitCommonControlsVB(modICCX::kAllClasses);
+    Form_Initialize();
     if (!Create(nullptr)) return false;
     geometry_.Restore(handle_, MeasureNow());
     ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
@@ -58,12 +60,16 @@ bool frmNewSpell::Show() {
     return true;
 }
 
+void frmNewSpell::Form_Initialize() {
+    modICCX::InitCommonControlsVB(modICCX::kAllClasses);
+}
+
 void frmNewSpell::OnInit() {
     tips_.Create(handle_);
     CreateAll(handle_, tips_);
     ApplyFonts();
     suggestions_.Attach();
-    drag_.Attach(*this, [this] { Rearrange(); });
+    drag_.Attach(*this, [this] { Form_Resize(); });
     copy_data_mouse_.Install(cmdCopyData.Handle(),
                              [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
                                  if (message != WM_RBUTTONDOWN) return {};
@@ -71,6 +77,11 @@ void frmNewSpell::OnInit() {
                                  return 0;
                              });
     SetWordPointer();
+    frames_.Attach(handle_);
+    document.on_renewed = [this](HWND control) {
+        frames_.AttachTo(control);
+        theme_.DecorateControl(control);
+    };
     theme_.Decorate(handle_);
     Form_Load();
 }
@@ -112,7 +123,8 @@ void frmNewSpell::Form_Load() {
     }
     commands_.UpdateButtons();
     ShowTitle();
-    Rearrange();
+    loaded_ = true;
+    Form_Resize();
 }
 
 void frmNewSpell::LoadSettings() {
@@ -131,7 +143,7 @@ void frmNewSpell::LoadSettings() {
     }
     menus_.CheckSearchMode(settings.SortBy);
     ShowCustomDictionaries();
-    Rearrange();
+    Form_Resize();
 }
 
 void frmNewSpell::ShowCustomDictionaries() {
@@ -144,6 +156,12 @@ void frmNewSpell::ApplyCaptions() {
     SetTextIds(*this, menus_);
     ApplyLanguage(program_.state, *this);
     SetComposedCaptions(program_.state, *this);
+    if (!loaded_) return;
+    // In another language the numbers stay what they are.
+    suggestions_.hsScore_Change();
+    suggestions_.ShowCount();
+    commands_.UpdateCounter();
+    Form_Resize();
 }
 
 std::wstring frmNewSpell::Caption() const {
@@ -194,7 +212,7 @@ void frmNewSpell::CheckDocument() {
     }
     const std::size_t count = result.words.size();
     commands_.session.SetCompletionNotice(true);
-    const bool correcting = commands_.Begin(std::move(result.words));
+    const bool correcting = FindNextToStart(std::move(result.words));
     const ProgramState& state = program_.state;
     if (result.cancelled) {
         status_.Say(LoadResText(state, text_id::kCheckCancelled));
@@ -206,20 +224,36 @@ void frmNewSpell::CheckDocument() {
                                                            : text_id::kUnknownWords),
                            {std::to_wstring(count)}));
     }
-    if (close_when_done_) {
-        Unload();
-        return;
-    }
+    if (CloseIfAsked()) return;
     if (!correcting && !result.cancelled && !document.Empty()) {
         files_.SetClipboard();
         commands_.Announce(commands_.session.Notice());
     }
+    if (correcting) {
+        // From here on Enter means Change; in the document it would replace the selected word.
+        txtChgTo.SetFocus();
+        txtChgTo.SelectAll();
+    }
     KeepFocus();
 }
 
+void frmNewSpell::cmdAddAll_Click(int index) {
+    commands_.AddAll(static_cast<AddIndex>(index));
+    CloseIfAsked();
+}
+
+bool frmNewSpell::CloseIfAsked() {
+    if (!close_when_done_) return false;
+    Unload();
+    return true;
+}
+
 void frmNewSpell::Finished(const SessionStep& step) {
+    if (txtChgTo.HasFocus()) rtbW.SetFocus();
     files_.SetClipboard();
     commands_.Announce(step.notice);
+    // The box of the announcement lets messages through, and one may have closed the window.
+    if (handle_ == nullptr) return;
     if (step.close) tmrBye_.SetEnabled(handle_, true);
     KeepFocus();
 }

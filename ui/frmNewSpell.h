@@ -6,6 +6,7 @@
 #include "ui/button_drag.h"
 #include "ui/closing_timer.h"
 #include "ui/correction_commands.h"
+#include "ui/dark_frames.h"
 #include "ui/desktop.h"
 #include "ui/document_files.h"
 #include "ui/main_geometry.h"
@@ -74,14 +75,21 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     bool OptionsShown() const { return geometry_.OptionsShown(); }
     bool CloseIsPending() const { return tmrBye_.Enabled(); }
 
+    /// Takes over the words that a check found and goes to the one that comes first in the document.
+    /// False when there is none.
+    bool FindNextToStart(std::vector<std::wstring> words) { return commands_.Begin(std::move(words)); }
+    /// Goes to an entry of the list: its word is selected in the document and gets its suggestions.
+    void FindItNow(int index) { commands_.SelectWord(index); }
+
     // Events
+    void Form_Resize() { geometry_.Arrange(handle_, MeasureNow()); }
     void cmdSpellcheck_Click();
     void cmdChange_Click() { commands_.Change(); }
     void cmdChangeAll_Click() { commands_.ChangeAll(); }
     void cmdIgnore_Click() { commands_.Ignore(); }
     void cmdIgnoreAll_Click() { commands_.IgnoreAll(); }
     void cmdAdd_Click(int index) { commands_.Add(static_cast<AddIndex>(index)); }
-    void cmdAddAll_Click(int index) { commands_.AddAll(static_cast<AddIndex>(index)); }
+    void cmdAddAll_Click(int index);
     void cmdSuggestions_Click();
     void cmdCopyData_Click() { commands_.CopyData(); }
     void cmdCopyData_MouseDown() { commands_.CopyWord(); }
@@ -91,7 +99,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void cmdPreferences_Click();
     void cmdCancel_Click() { Unload(); }
     void lblNID_Click() { commands_.TakeWord(); }
-    void lstNID_Click() { commands_.SelectWord(lstNID.Selected()); }
+    void lstNID_Click() { FindItNow(lstNID.Selected()); }
     void lstSug_Click() { suggestions_.TakeSelected(); }
     void lstSco_Click() { suggestions_.lstSco_Click(); }
     void lstSco_DblClick() { suggestions_.lstSco_DblClick(); }
@@ -127,6 +135,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void OnActivate(bool active) override;
 
   private:
+    static void Form_Initialize();
     void Form_Load();
     bool Form_QueryUnload();
     void Form_Unload();
@@ -140,16 +149,17 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void SetWordPointer();
     void CheckDocument();
     void Finished(const SessionStep& step);
+    bool CloseIfAsked();
     void ShowCustomDictionaries();
     void ShowTitle();
     void KeepFocus();
     layout::Measure MeasureNow() const { return {Dpi(), Font()}; }
-    void Rearrange() { geometry_.Arrange(handle_, MeasureNow()); }
 
     Program& program_;
     Desktop& desktop_;
     SharedMainWindow& shared_;
     Theme theme_;
+    DarkFrames frames_{theme_};
     ToolTips tips_;
     std::wstring tag_;
     MainMenus menus_;
@@ -164,8 +174,9 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     Subclass word_pointer_;
     ClosingTimer tmrBye_;
     HWND last_focus_ = nullptr;
-    /// The check that is letting messages through, if one is.
+    /// The check or long command that is letting messages through, if one is.
     ProgressWindow* running_ = nullptr;
+    bool loaded_ = false;
     bool close_when_done_ = false;
     bool save_back_failed_ = false;
 };

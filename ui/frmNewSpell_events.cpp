@@ -178,7 +178,7 @@ void frmNewSpell::OnInitMenu(HMENU menu) {
 // ---- looks ----
 
 void frmNewSpell::OnSize(int, int) {
-    Rearrange();
+    Form_Resize();
 }
 
 void frmNewSpell::OnMinimumSize(SIZE& smallest) {
@@ -189,8 +189,9 @@ void frmNewSpell::OnFontsChanged() {
     const int height = EntryHeight(Font(), Dpi());
     for (ListBox* list : {&lstNID, &lstSug, &lstSco}) list->SetItemHeight(height);
     for (ComboBox* combo : {&cboChgTo, &cboDicts}) combo->SetItemHeight(height);
+    cboChgTo.SetListWidth(Scaled(220));
     SendMessageW(lblNID.Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(BoldFont()), TRUE);
-    Rearrange();
+    Form_Resize();
 }
 
 void frmNewSpell::OnAppearanceChanged() {
@@ -268,6 +269,8 @@ void frmNewSpell::KeepFocus() {
 // take it.
 void frmNewSpell::OnActivate(bool active) {
     if (active) {
+        // Under a box that waits for its answer.
+        if (!IsWindowEnabled(handle_)) return;
         if (last_focus_ != nullptr && IsWindow(last_focus_) && IsWindowEnabled(last_focus_)) {
             ::SetFocus(last_focus_);
         }

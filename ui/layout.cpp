@@ -245,7 +245,7 @@ class ButtonsNode : public Node {
         const int widest = Widest(measure);
         const int gap = measure.Scaled(gap_);
         int columns = columns_;
-        while (columns > 1 && columns * widest + (columns - 1) * gap > width) columns = (columns + 1) / 2;
+        while (columns > 1 && columns * widest + (columns - 1) * gap > width) --columns;
         return columns;
     }
 
@@ -325,6 +325,13 @@ NodePtr Margin(int margin, NodePtr child, int stretch) {
 void Arrange(const layout::Node& node, const RECT& area, const layout::Measure& measure) {
     std::vector<layout::Placement> placements;
     node.Place(area, measure, placements);
+    // A control that stays is not touched: a rich text box breaks its lines anew even then.
+    std::erase_if(placements, [](const layout::Placement& placed) {
+        RECT bounds{};
+        GetWindowRect(placed.control, &bounds);
+        MapWindowPoints(nullptr, GetParent(placed.control), reinterpret_cast<POINT*>(&bounds), 2);
+        return EqualRect(&bounds, &placed.bounds) != FALSE;
+    });
     HDWP batch = BeginDeferWindowPos(static_cast<int>(placements.size()));
     constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE;
     for (const layout::Placement& placed : placements) {

@@ -69,7 +69,7 @@ NodePtr Row(int gap, std::vector<NodePtr> children, int stretch = 0);
 NodePtr Column(int gap, std::vector<NodePtr> children, int stretch = 0);
 
 /// Buttons of one common width, large enough for the longest text, in as many columns of `columns`
-/// as fit (the columns are halved until they do). They fill the width.
+/// as fit. They fill the width.
 NodePtr Buttons(int gap, int columns, std::vector<const Control*> buttons);
 
 /// A fixed margin around.

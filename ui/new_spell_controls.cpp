@@ -7,6 +7,8 @@ namespace {
 
 constexpr int kHighestScore = 100;
 constexpr int kHighestDiversity = 10;
+/// Width of the main panel, in units of 1/96 inch, from which on it is arranged side by side.
+constexpr int kWide = 820;
 
 }  // namespace
 
@@ -129,15 +131,25 @@ void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
                             Item(cboChgTo, {46, kFieldHeight}, 0, Fill::Centred))),
                 Row(4, List(Item(lstSug, {60, 60}, 1), Item(lstSco, {62, 60}, 0)), 1),
                 Row(4, List(Text(lblCnt, 1), Item(lblDum[2], {62, 0}, 0, Fill::Centred)))), 6);
-    const NodePtr root = Margin(
-        11, Column(7, List(Item(document.rtbW, {100, 70}, 5),
-                           Row(9, List(std::move(words), std::move(suggestions)), 4),
-                           Buttons(5, 4, button_order_),
-                           Row(5, List(Text(lblStatus, 1),
-                                       Item(cmdUndoAdd, {0, kButtonHeight - 2}, 0, Fill::Centred))))));
+    NodePtr lists = Row(9, List(std::move(words), std::move(suggestions)), 4);
+    NodePtr buttons = Buttons(5, 4, button_order_);
+    // As high without its button as with it, so that nothing moves when the button comes.
+    NodePtr status = Row(5, List(Item(lblStatus, {40, kButtonHeight - 2}, 1),
+                                 Item(cmdUndoAdd, {0, kButtonHeight - 2})));
     RECT area{};
     GetClientRect(pic1.Handle(), &area);
-    Arrange(*root, area, measure);
+    NodePtr body;
+    if (area.right < measure.Scaled(kWide)) {
+        body = Column(7, List(Item(document.rtbW, {100, 70}, 5), std::move(lists),
+                              std::move(buttons), std::move(status)));
+    } else {
+        // A wide window has the document beside the words, not lines of a yard above them.
+        body = Column(7, List(Row(11, List(Item(document.rtbW, {100, 70}, 5),
+                                           Column(7, List(std::move(lists), std::move(buttons)), 4)),
+                                  1),
+                              std::move(status)));
+    }
+    Arrange(*Margin(11, std::move(body)), area, measure);
 }
 
 void NewSpellControls::Swap(const Button& one, const Button& other) {

@@ -4,12 +4,21 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <system_error>
 
 namespace wordhawk {
 namespace {
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// The control word at `at`; empty when there is none.
+std::string_view ControlWord(std::string_view rtf, std::size_t at) {
+    if (at >= rtf.size() || rtf[at] != '\\') return {};
+    const std::size_t start = ++at;
+    while (at < rtf.size() && IsLetter(rtf[at])) ++at;
+    return rtf.substr(start, at - start);
+}
 
 /// The control word that opens the group at `at` (which holds "{"), past an optional "\*".
 std::string_view GroupWord(std::string_view rtf, std::size_t at) {
@@ -22,10 +31,7 @@ std::string_view GroupWord(std::string_view rtf, std::size_t at) {
         at += 2;
         skip_blanks();
     }
-    if (at >= rtf.size() || rtf[at] != '\\') return {};
-    const std::size_t start = ++at;
-    while (at < rtf.size() && IsLetter(rtf[at])) ++at;
-    return rtf.substr(start, at - start);
+    return ControlWord(rtf, at);
 }
 
 bool IsUnwanted(std::string_view word) {
@@ -34,34 +40,38 @@ bool IsUnwanted(std::string_view word) {
     return std::find(kUnwanted.begin(), kUnwanted.end(), word) != kUnwanted.end();
 }
 
-/// The first place behind the token at `at`: an escape, a control word (with the raw bytes that
-/// \bin announces), or one byte.
+/// The first place behind the token at `at`: an escape, a control word with its number (and the raw
+/// bytes that \bin announces), or one byte.
 std::size_t TokenEnd(std::string_view rtf, std::size_t at) {
     if (rtf[at] != '\\') return at + 1;
-    std::size_t end = at + 1;
-    if (end >= rtf.size()) return end;
-    if (!IsLetter(rtf[end])) return end + 1;
-    const std::size_t word_start = end;
-    while (end < rtf.size() && IsLetter(rtf[end])) ++end;
-    if (rtf.substr(word_start, end - word_start) != "bin") return end;
-    std::uint64_t count = 0;
-    const std::size_t digits = end;
+    const std::string_view word = ControlWord(rtf, at);
+    if (word.empty()) return std::min(at + 2, rtf.size());
+    std::size_t end = at + 1 + word.size();
+    const std::size_t number = end;
+    if (end < rtf.size() && rtf[end] == '-') ++end;
     while (end < rtf.size() && IsDigit(rtf[end])) ++end;
-    std::from_chars(rtf.data() + digits, rtf.data() + end, count);
+    if (word != "bin") return end;
+    std::uint64_t count = 0;
+    const auto read = std::from_chars(rtf.data() + number, rtf.data() + end, count);
+    if (read.ec == std::errc::result_out_of_range) count = rtf.size();
     if (end < rtf.size() && rtf[end] == ' ') ++end;
     return end + static_cast<std::size_t>(std::min<std::uint64_t>(count, rtf.size() - end));
 }
 
-/// The first place behind the group that opens at `at`.
-std::size_t GroupEnd(std::string_view rtf, std::size_t at) {
+/// The brace that ends the group in which `at` stands, or the end.
+std::size_t RestOfGroupEnd(std::string_view rtf, std::size_t at) {
     std::size_t depth = 0;
-    while (at < rtf.size()) {
+    while (at < rtf.size() && (depth > 0 || rtf[at] != '}')) {
         if (rtf[at] == '{') ++depth;
-        const bool closes = rtf[at] == '}' && --depth == 0;
+        if (rtf[at] == '}') --depth;
         at = TokenEnd(rtf, at);
-        if (closes) break;
     }
     return at;
+}
+
+/// The first place behind the group that opens at `at`.
+std::size_t GroupEnd(std::string_view rtf, std::size_t at) {
+    return std::min(RestOfGroupEnd(rtf, at + 1) + 1, rtf.size());
 }
 
 }  // namespace
@@ -69,11 +79,19 @@ std::size_t GroupEnd(std::string_view rtf, std::size_t at) {
 std::string RtfWithoutObjects(std::string_view rtf) {
     std::string kept;
     kept.reserve(rtf.size());
+    bool after_word = false;
     for (std::size_t at = 0; at < rtf.size();) {
-        if (rtf[at] == '{' && IsUnwanted(GroupWord(rtf, at))) {
-            at = GroupEnd(rtf, at);
+        const bool whole_group = rtf[at] == '{' && IsUnwanted(GroupWord(rtf, at));
+        // A group may also turn into a picture half-way: then its rest goes, up to its brace.
+        const bool rest_of_group = !whole_group && IsUnwanted(ControlWord(rtf, at));
+        if (whole_group || rest_of_group) {
+            at = whole_group ? GroupEnd(rtf, at) : RestOfGroupEnd(rtf, at);
+            // What follows must not become part of the word before.
+            if (after_word) kept += ' ';
+            after_word = false;
             continue;
         }
+        after_word = !ControlWord(rtf, at).empty();
         const std::size_t end = TokenEnd(rtf, at);
         kept.append(rtf.substr(at, end - at));
         at = end;
@@ -85,12 +103,13 @@ std::string RtfWithAutomaticColour(std::string_view rtf, int red, int green, int
     std::string result(rtf);
     const std::size_t table = result.find("{\\colortbl");
     if (table == std::string::npos) return result;
-    const std::string entry = "\\red" + std::to_string(red) + "\\green" + std::to_string(green) +
-                              "\\blue" + std::to_string(blue) + ";";
+    std::string entry = "\\red";
+    entry.append(std::to_string(red)).append("\\green").append(std::to_string(green));
+    entry.append("\\blue").append(std::to_string(blue)).append(";");
     const std::size_t found = result.find(entry, table);
     // An entry without a colour is the automatic one; the others keep their numbers.
     if (found != std::string::npos && found < GroupEnd(result, table)) {
-        result.replace(found, entry.size(), ";");
+        result.erase(found, entry.size() - 1);
     }
     return result;
 }

@@ -2,6 +2,7 @@
 
 #include "ui/new_spell_controls.h"
 
+#include <functional>
 #include <string>
 
 namespace wordhawk {
@@ -12,7 +13,9 @@ class StatusLine {
   public:
     enum class Undo { None, LastAdd };
 
-    explicit StatusLine(NewSpellControls& controls) : controls_(controls) {}
+    /// `arrange` gives the line and its button their places, when the button comes or goes.
+    StatusLine(NewSpellControls& controls, std::function<void()> arrange)
+        : controls_(controls), arrange_(std::move(arrange)) {}
 
     /// `undo` offers to take the added word back.
     void Say(const std::wstring& text, Undo undo = Undo::None);
@@ -20,6 +23,7 @@ class StatusLine {
 
   private:
     NewSpellControls& controls_;
+    std::function<void()> arrange_;
 };
 
 }  // namespace wordhawk

@@ -24,6 +24,8 @@ class Subclass {
 
     void Install(HWND control, Filter filter, After after = {});
     void Remove();
+    /// Whether the control is still there.
+    bool Installed() const { return control_ != nullptr; }
 
   private:
     static LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wparam, LPARAM lparam,

@@ -16,12 +16,29 @@ namespace wordhawk {
 
 void SuggestionPane::Attach() {
     NewSpellControls& c = parts_.controls;
-    suggestions_subclass_.Install(c.lstSug.Handle(), {}, [this, &c](UINT message) {
-        if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSug, c.lstSco);
-    });
+    suggestions_subclass_.Install(
+        c.lstSug.Handle(),
+        [this](UINT message, WPARAM, LPARAM lparam) -> std::optional<LRESULT> {
+            if (message == WM_MOUSEMOVE) ShowTipUnderPointer(lparam);
+            return {};
+        },
+        [this, &c](UINT message) {
+            if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSug, c.lstSco);
+            // A press on the entry that is selected already changes no selection.
+            if (message == WM_LBUTTONDOWN) TakeSelected();
+        });
     scores_subclass_.Install(c.lstSco.Handle(), {}, [this, &c](UINT message) {
         if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSco, c.lstSug);
     });
+}
+
+void SuggestionPane::ShowTipUnderPointer(LPARAM position) {
+    ListBox& list = parts_.controls.lstSug;
+    const POINT point{static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
+    const int row = list.At(point).value_or(-1);
+    if (row == tip_row_) return;
+    tip_row_ = row;
+    list.SetToolTipText(Explanation(row));
 }
 
 // A list box tells nobody when it scrolls, whatever made it scroll; so after every message.
@@ -44,6 +61,9 @@ void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_lis
     searched_ = word;
 
     following_ = true;
+    // A tip on the screen told of a suggestion for another word.
+    tip_row_ = -1;
+    c.lstSug.SetToolTipText({});
     c.lstSug.Clear();
     c.lstSco.Clear();
     for (const Suggestion& suggestion : found.list) {
@@ -88,6 +108,11 @@ void SuggestionPane::Select(int index) {
 void SuggestionPane::SetCount(int count) {
     parts_.controls.lblCnt.SetText(captions::SuggestionCount(parts_.dictionaries.State(),
                                                              static_cast<std::size_t>(count)));
+}
+
+void SuggestionPane::ShowCount() {
+    const int count = parts_.controls.lstSug.Count();
+    SetCount(count == 1 && IsPlaceholder(0) ? 0 : count);
 }
 
 bool SuggestionPane::IsPlaceholder(int index) const {

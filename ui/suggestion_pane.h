@@ -31,6 +31,8 @@ class SuggestionPane {
     /// was.
     void FillSuggestions(std::wstring_view word, SkipListed skip_listed, std::uint8_t search_mode);
     void Clear();
+    /// Writes the number of suggestions into its label, as the list is now.
+    void ShowCount();
 
     /// Takes the selected suggestion into the change-to box, in the case of the document's word.
     void TakeSelected();
@@ -64,6 +66,7 @@ class SuggestionPane {
     void ShowNone();
     void Select(int index);
     void SetCount(int count);
+    void ShowTipUnderPointer(LPARAM position);
     void FollowScroll(const ListBox& leader, ListBox& follower);
     bool IsPlaceholder(int index) const;
     std::wstring PaddedScore(std::int32_t percent) const;
@@ -72,6 +75,7 @@ class SuggestionPane {
     Subclass suggestions_subclass_;
     Subclass scores_subclass_;
     bool following_ = false;
+    int tip_row_ = -1;
     std::wstring searched_;
 };
 

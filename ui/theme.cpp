@@ -44,6 +44,7 @@ Theme::Colours SystemColours() {
 Theme::Colours LightColours() {
     Theme::Colours colours = SystemColours();
     colours.faint_text = RGB(96, 96, 96);
+    colours.border = RGB(160, 160, 160);
     colours.accent = RGB(176, 32, 32);
     return colours;
 }

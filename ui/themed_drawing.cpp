@@ -7,7 +7,14 @@ namespace {
 
 constexpr int kEntryMargin = 4;
 
-/// A colour painted over a rectangle without making a brush.
+void DrawPart(HDC device, std::wstring_view text, RECT area, COLORREF colour, UINT format) {
+    SetTextColor(device, colour);
+    DrawTextW(device, text.data(), static_cast<int>(text.size()), &area,
+              format | DT_SINGLELINE | DT_VCENTER);
+}
+
+}  // namespace
+
 void FillColour(HDC device, const RECT& area, COLORREF colour) {
     SetDCBrushColor(device, colour);
     FillRect(device, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
@@ -17,14 +24,6 @@ void FrameColour(HDC device, const RECT& area, COLORREF colour) {
     SetDCBrushColor(device, colour);
     FrameRect(device, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
-
-void DrawPart(HDC device, std::wstring_view text, RECT area, COLORREF colour, UINT format) {
-    SetTextColor(device, colour);
-    DrawTextW(device, text.data(), static_cast<int>(text.size()), &area,
-              format | DT_SINGLELINE | DT_VCENTER);
-}
-
-}  // namespace
 
 int EntryHeight(HFONT font, int dpi) {
     const HDC screen = GetDC(nullptr);

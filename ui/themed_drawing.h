@@ -19,6 +19,10 @@ void DrawEntry(const Theme& theme, const DRAWITEMSTRUCT& item, std::wstring_view
 /// draw notification; in the other themes the system draws.
 LRESULT DrawButton(const Theme& theme, const NMCUSTOMDRAW& drawing, bool is_default);
 
+/// A colour over a rectangle, and one pixel of it around one.
+void FillColour(HDC device, const RECT& area, COLORREF colour);
+void FrameColour(HDC device, const RECT& area, COLORREF colour);
+
 /// Height of an entry that shows one line of `font`.
 int EntryHeight(HFONT font, int dpi);
 

@@ -36,8 +36,11 @@ static_assert((MB_ICONQUESTION | MB_YESNO | MB_DEFBUTTON2) == 292);
 
 Answer UiServicesWin32::ShowMessage(std::wstring_view text, std::wstring_view title,
                                     MessageIcon icon, MessageButtons buttons) {
-    const int pressed = MessageBoxW(GetActiveWindow(), std::wstring(text).c_str(),
-                                    std::wstring(title).c_str(), Style(icon, buttons));
+    const HWND form = owner ? owner() : nullptr;
+    // A dialog of the form's, when one is open.
+    const HWND over = form != nullptr ? GetLastActivePopup(form) : GetActiveWindow();
+    const int pressed = MessageBoxW(over, std::wstring(text).c_str(), std::wstring(title).c_str(),
+                                    Style(icon, buttons));
     return pressed == IDYES ? Answer::Yes : pressed == IDNO ? Answer::No : Answer::Ok;
 }
 

@@ -95,6 +95,14 @@ TEST_F(SuggestionControls, BothListsAlwaysShowTheSameRows) {
     EXPECT_EQ(EqualIgnoringCase(Controls().txtChgTo.Text(), Controls().lstSug.Item(2)), true);
 }
 
+TEST_F(SuggestionControls, PressOnTheSelectedSuggestionTakesItAgain) {
+    OpenWith(L"recieve");
+    Controls().txtChgTo.SetText(L"mine");
+    SendMessageW(Controls().lstSug.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageW(Controls().lstSug.Handle(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(Controls().txtChgTo.Text(), L"receive");
+}
+
 TEST_F(SuggestionControls, AltAndADigitPickASuggestion) {
     Setting(L"ScoreValue", L"40");
     Setting(L"Diversity", L"3");

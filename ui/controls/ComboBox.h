@@ -24,6 +24,8 @@ class ComboBox : public Control {
     bool DroppedDown() const { return Send(CB_GETDROPPEDSTATE) != 0; }
     /// Height of an entry, and of the text in the closed box.
     void SetItemHeight(int pixels);
+    /// Least width of the list when it is open.
+    void SetListWidth(int pixels) { Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(pixels)); }
 
     std::wstring Caption() const override { return {}; }
     void SetCaption(const std::wstring&) override {}

@@ -38,11 +38,6 @@ CHARFORMAT2W EmptyFormat() {
     return format;
 }
 
-/// A text that begins like this would be read as rich text.
-bool LooksRich(std::wstring_view text) {
-    return text.starts_with(L"{\\rtf") || text.starts_with(L"{\\urtf");
-}
-
 }  // namespace
 
 void RichEdit::Create(const Where& where) {
@@ -53,15 +48,14 @@ void RichEdit::Create(const Where& where) {
     // No drag and drop of objects: files dropped here go to the form, objects nowhere.
     Make(where, MSFTEDIT_CLASS,
          WS_TABSTOP | WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN |
-             ES_NOOLEDRAGDROP,
-         WS_EX_CLIENTEDGE);
+             ES_NOOLEDRAGDROP | WS_BORDER);
     SetUp();
 }
 
 void RichEdit::SetUp() {
     Send(EM_EXLIMITTEXT, 0, 0x7FFFFFFE);
     Send(EM_SETUNDOLIMIT, kUndoSteps);
-    Send(EM_SETEVENTMASK, 0, ENM_CHANGE | ENM_SELCHANGE);
+    Send(EM_SETEVENTMASK, 0, ENM_CHANGE);
     // A wide left edge puts the caret and the selection clear of the frame.
     Send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(4, 4));
 }
@@ -97,16 +91,10 @@ std::wstring RichEdit::PlainText() const {
 }
 
 void RichEdit::SetPlainText(std::wstring_view text) {
-    std::wstring value(text);
-    // The control takes text up to the first NUL.
-    std::replace(value.begin(), value.end(), L'\0', L' ');
-    const bool rich = LooksRich(value);
-    if (rich) value.insert(value.begin(), L' ');
-    SetWindowTextW(handle_, value.c_str());
-    if (rich) {
-        Select({0, 1});
-        ReplaceSelection({});
-    }
+    // Streamed in, a text that begins like rich text or holds a NUL is still only a text.
+    std::string_view rest(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t));
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, ReadSome};
+    Send(EM_STREAMIN, SF_TEXT | SF_UNICODE, reinterpret_cast<LPARAM>(&stream));
     ForgetUndo();
     Select({0, 0});
 }
@@ -146,9 +134,10 @@ void RichEdit::ReplaceSelection(std::wstring_view text) {
     Send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(value.c_str()));
 }
 
-void RichEdit::SetRedraw(bool on) {
-    Send(WM_SETREDRAW, on);
-    if (on) Redraw();
+void RichEdit::SetQuiet(bool quiet) {
+    Send(EM_SETEVENTMASK, 0, quiet ? 0 : ENM_CHANGE);
+    Send(WM_SETREDRAW, !quiet);
+    if (!quiet) Redraw();
 }
 
 std::wstring RichEdit::FontName() const {

@@ -34,7 +34,8 @@ class RichEdit : public Control {
     void Select(TextRange range);
     void ScrollToCaret() { Send(EM_SCROLLCARET); }
     void ReplaceSelection(std::wstring_view text);
-    void SetRedraw(bool on);
+    /// Neither paints nor tells the form of changes meanwhile.
+    void SetQuiet(bool quiet);
 
     bool CanUndo() const { return Send(EM_CANUNDO) != 0; }
     bool Undo() { return Send(EM_UNDO) != 0; }

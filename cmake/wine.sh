@@ -1,0 +1,51 @@
+# Read by ./run and ./test with ".": a screen and a Wine prefix for the Windows programs.
+# The caller sets $root, the project's folder.
+
+# Never the user's own prefix.
+export WINEPREFIX="$root/build/wine" WINEDEBUG="${WINEDEBUG:--all}"
+# No offers to install what none of our programs needs.
+export WINEDLLOVERRIDES="mscoree=;mshtml="
+
+display_server=
+
+# start_display [GEOMETRY]: a screen of our own, on a display number that the server picks.
+start_display() {
+    mkdir -p "$root/build"
+    number=$(mktemp "$root/build/display.XXXXXX")
+    Xvfb -displayfd 3 -screen 0 "${1:-1280x1024x24}" -nolisten tcp 3>"$number" 2>/dev/null &
+    display_server=$!
+    tries=0
+    while [ ! -s "$number" ]; do
+        tries=$((tries + 1))
+        [ "$tries" -lt 100 ] || break
+        sleep 0.1
+    done
+    DISPLAY=:$(cat "$number")
+    export DISPLAY
+    rm -f "$number"
+    [ "$DISPLAY" != : ]
+}
+
+stop_display() {
+    [ -z "$display_server" ] || kill "$display_server" 2>/dev/null || true
+    display_server=
+}
+
+# set_value KEY NAME TYPE VALUE: in the user's part of the prefix's registry.
+set_value() {
+    wine reg add "HKCU\\$1" /v "$2" /t "$3" /d "$4" /f
+}
+
+# Makes the prefix with the looks of today's Windows. Silent and quick once that is done.
+prepare_wine() {
+    [ ! -f "$WINEPREFIX/wordhawk-ready" ] || return 0
+    wineboot -i || return 1
+    themes='Software\Microsoft\Windows\CurrentVersion\ThemeManager'
+    set_value "$themes" DllName REG_EXPAND_SZ 'C:\windows\resources\themes\light\light.msstyles' &&
+        set_value "$themes" ThemeActive REG_SZ 1 &&
+        set_value "$themes" ColorName REG_SZ Blue &&
+        set_value "$themes" SizeName REG_SZ NormalSize &&
+        # Wine's windows as their own managers: on a bare screen there is no window manager to wait for.
+        set_value 'Software\Wine\X11 Driver' Managed REG_SZ N &&
+        touch "$WINEPREFIX/wordhawk-ready"
+}
