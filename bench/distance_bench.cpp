@@ -16,14 +16,10 @@ void Distance(benchmark::State& state, Transposition transposition) {
     }
 }
 
-void DistanceWithoutSwaps(benchmark::State& state) {
-    Distance(state, Transposition::NotCounted);
-}
+void DistanceWithoutSwaps(benchmark::State& state) { Distance(state, Transposition::NotCounted); }
 BENCHMARK(DistanceWithoutSwaps);
 
-void DistanceWithSwaps(benchmark::State& state) {
-    Distance(state, Transposition::OneEdit);
-}
+void DistanceWithSwaps(benchmark::State& state) { Distance(state, Transposition::OneEdit); }
 BENCHMARK(DistanceWithSwaps);
 
 }  // namespace

@@ -19,14 +19,10 @@ void Scan(benchmark::State& state, bool ignore_webs) {
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(Megabyte().size()));
 }
 
-void ScanWords(benchmark::State& state) {
-    Scan(state, false);
-}
+void ScanWords(benchmark::State& state) { Scan(state, false); }
 BENCHMARK(ScanWords)->Unit(benchmark::kMillisecond);
 
-void BlankAddressesAndScanWords(benchmark::State& state) {
-    Scan(state, true);
-}
+void BlankAddressesAndScanWords(benchmark::State& state) { Scan(state, true); }
 BENCHMARK(BlankAddressesAndScanWords)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -20,9 +20,7 @@ Result<ByteSource> ByteSource::OpenFile(const Path& path) {
     return source;
 }
 
-ByteSource ByteSource::StandardInput() {
-    return {};
-}
+ByteSource ByteSource::StandardInput() { return {}; }
 
 Result<void> ByteSource::Read(std::size_t size, std::string& out) {
     const std::size_t start = out.size();

@@ -12,11 +12,8 @@ void CheckReport::BeginFile(std::string_view name) {
 void CheckReport::Add(Output& out, const UnknownWord& word, std::uint64_t line,
                       std::uint64_t column) {
     switch (options_.format) {
-        case CheckFormat::List:
-            break;
-        case CheckFormat::Words:
-            out << word.text << '\n';
-            break;
+        case CheckFormat::List: break;
+        case CheckFormat::Words: out << word.text << '\n'; break;
         case CheckFormat::Json:
             out << "{\"file\": " << file_ << ", \"line\": " << line << ", \"column\": " << column
                 << ", \"word\": " << JsonString(word.text) << ", \"suggestions\": " << TailOf(word)

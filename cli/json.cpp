@@ -13,21 +13,11 @@ std::string JsonString(std::string_view utf8) {
     std::string quoted = "\"";
     for (const char c : utf8) {
         switch (c) {
-            case '"':
-                quoted += "\\\"";
-                break;
-            case '\\':
-                quoted += "\\\\";
-                break;
-            case '\n':
-                quoted += "\\n";
-                break;
-            case '\r':
-                quoted += "\\r";
-                break;
-            case '\t':
-                quoted += "\\t";
-                break;
+            case '"': quoted += "\\\""; break;
+            case '\\': quoted += "\\\\"; break;
+            case '\n': quoted += "\\n"; break;
+            case '\r': quoted += "\\r"; break;
+            case '\t': quoted += "\\t"; break;
             default:
                 if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) {
                     constexpr std::string_view kDigits = "0123456789abcdef";

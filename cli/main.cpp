@@ -16,26 +16,16 @@ int Run(const Options& options) {
         return kExitFailed;
     }
     switch (options.command) {
-        case Command::Check:
-            return RunCheck(options.global, options.check);
-        case Command::Suggest:
-            return RunSuggest(options.global, options.words);
-        case Command::Explain:
-            return RunExplain(options.global, options.explain);
-        case Command::Key:
-            return RunKey(options.global, options.words);
-        case Command::Add:
-            return RunAdd(options.global, options.add);
-        case Command::Remove:
-            return RunRemove(options.global, options.words);
-        case Command::Import:
-            return RunImport(options.global, options.import_file);
-        case Command::Dictionaries:
-            return RunDictionaries(options.global, options.activate);
-        case Command::BuildDictionary:
-            return RunBuildDictionary(options.build);
-        case Command::Pipe:
-            return RunPipe(options.global);
+        case Command::Check: return RunCheck(options.global, options.check);
+        case Command::Suggest: return RunSuggest(options.global, options.words);
+        case Command::Explain: return RunExplain(options.global, options.explain);
+        case Command::Key: return RunKey(options.global, options.words);
+        case Command::Add: return RunAdd(options.global, options.add);
+        case Command::Remove: return RunRemove(options.global, options.words);
+        case Command::Import: return RunImport(options.global, options.import_file);
+        case Command::Dictionaries: return RunDictionaries(options.global, options.activate);
+        case Command::BuildDictionary: return RunBuildDictionary(options.build);
+        case Command::Pipe: return RunPipe(options.global);
     }
     return kExitFailed;
 }

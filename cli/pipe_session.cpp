@@ -59,24 +59,14 @@ bool PipeSession::HandleCommand(std::wstring_view line) {
         case L'@':
             if (!word.empty()) accepted_.insert(Lower(word));
             return true;
-        case L'#':
-            SavePersonalWords();
-            return true;
-        case L'!':
-            detail_ = Detail::Terse;
-            return true;
-        case L'%':
-            detail_ = Detail::Full;
-            return true;
-        case L'`':
-            detail_ = Detail::WithCorrectWords;
-            return true;
+        case L'#': SavePersonalWords(); return true;
+        case L'!': detail_ = Detail::Terse; return true;
+        case L'%': detail_ = Detail::Full; return true;
+        case L'`': detail_ = Detail::WithCorrectWords; return true;
         case L'+':
         case L'-':
-        case L'~':
-            return true;  // text filters and character sets: there is only one of each
-        default:
-            return false;
+        case L'~': return true;  // text filters and character sets: there is only one of each
+        default: return false;
     }
 }
 

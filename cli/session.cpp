@@ -29,12 +29,9 @@ Answer StderrUi::ShowMessage(std::wstring_view text, std::wstring_view, MessageI
     std::erase(line, '\r');
     ShowMessageLine(MessageLine(line));
     switch (buttons) {
-        case MessageButtons::Ok:
-            return Answer::Ok;
-        case MessageButtons::YesNo:
-            return Answer::Yes;
-        case MessageButtons::YesNoDefaultNo:
-            return Answer::No;
+        case MessageButtons::Ok: return Answer::Ok;
+        case MessageButtons::YesNo: return Answer::Yes;
+        case MessageButtons::YesNoDefaultNo: return Answer::No;
     }
     return Answer::Ok;
 }

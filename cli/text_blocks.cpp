@@ -108,14 +108,11 @@ std::size_t TextBlocks::CompleteBytes() const {
     if (end == bytes_.size() && source_.AtEnd()) return end;
     const std::string_view part = std::string_view(bytes_).substr(bytes_at_, end - bytes_at_);
     switch (encoding_) {
-        case TextEncoding::Ansi:
-            return end;
+        case TextEncoding::Ansi: return end;
         case TextEncoding::Utf8:
-        case TextEncoding::Utf8WithMark:
-            return bytes_at_ + CompleteUtf8Length(part);
+        case TextEncoding::Utf8WithMark: return bytes_at_ + CompleteUtf8Length(part);
         case TextEncoding::Utf16LittleEndian:
-        case TextEncoding::Utf16BigEndian:
-            return end - part.size() % 2;
+        case TextEncoding::Utf16BigEndian: return end - part.size() % 2;
     }
     return end;
 }

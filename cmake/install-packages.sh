@@ -47,7 +47,11 @@ BUILD_PACKAGES="cmake ninja-build g++ python3
 # Sources of the shipped dictionaries (data/sources/README.md).
 WORD_LIST_PACKAGES="wamerican-large wbritish-large wngerman wfrench hunspell-es witalian hunspell-it
     wdutch wportuguese wbrazilian wdanish hunspell-sv wpolish"
-# Compilers, and what the tests are run with.
-TEST_PACKAGES="googletest libgtest-dev libgmock-dev clang ccache git
-    g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 libwine
-    xvfb xdotool imagemagick emacs-nox vim procps"
+# The cross build of the window, and what it runs with here.
+WINDOW_PACKAGES="g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 libwine
+    fonts-wine fonts-roboto-unhinted"
+# A virtual screen, its keyboard and its camera.
+SCREEN_PACKAGES="xvfb xdotool imagemagick"
+# More compilers, and what the tests are run with.
+TEST_PACKAGES="$WINDOW_PACKAGES $SCREEN_PACKAGES googletest libgtest-dev libgmock-dev clang ccache git
+    emacs-nox vim procps"

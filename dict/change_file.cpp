@@ -14,9 +14,7 @@ bool IsMissing(const Path& path) {
     return std::filesystem::status(path, failed).type() == std::filesystem::file_type::not_found;
 }
 
-Path FolderOf(const Path& path) {
-    return path.has_parent_path() ? path.parent_path() : Path(".");
-}
+Path FolderOf(const Path& path) { return path.has_parent_path() ? path.parent_path() : Path("."); }
 
 }  // namespace
 

@@ -102,20 +102,15 @@ class BatchPlan {
     std::vector<std::size_t> batch_of_word_;
 };
 
-std::string_view WithoutLineEnd(std::string_view line) {
-    return line.substr(0, line.size() - 2);
-}
+std::string_view WithoutLineEnd(std::string_view line) { return line.substr(0, line.size() - 2); }
 
 }  // namespace
 
 Path AdditionFile(DictionaryStore& store, std::wstring_view word, AddTarget target, Path& path) {
     switch (target) {
-        case AddTarget::Main:
-            return store.MainPathFor(Lower(word));
-        case AddTarget::ActiveCustom:
-            return store.ActiveCustomPath();
-        case AddTarget::ExplicitFile:
-            break;
+        case AddTarget::Main: return store.MainPathFor(Lower(word));
+        case AddTarget::ActiveCustom: return store.ActiveCustomPath();
+        case AddTarget::ExplicitFile: break;
     }
     if (path.empty()) path = store.CustomPath(kDefaultCustomName);
     return path;

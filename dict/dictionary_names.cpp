@@ -45,9 +45,7 @@ std::wstring_view Objection(std::wstring_view name) {
 
 }  // namespace
 
-bool IsPlainFileName(std::wstring_view name) {
-    return Objection(name).empty();
-}
+bool IsPlainFileName(std::wstring_view name) { return Objection(name).empty(); }
 
 Result<std::wstring> CustomDictionaryName(std::wstring_view name) {
     std::wstring full(name);

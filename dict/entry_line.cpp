@@ -7,9 +7,7 @@
 namespace wordhawk {
 namespace {
 
-bool BreaksEntry(wchar_t c) {
-    return c == L',' || c < 32 || c == 127;
-}
+bool BreaksEntry(wchar_t c) { return c == L',' || c < 32 || c == 127; }
 
 }  // namespace
 

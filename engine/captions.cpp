@@ -23,9 +23,7 @@ constexpr std::wstring_view kParagraph = L"\r\n\r\n";
 
 }  // namespace
 
-std::wstring NotFound(std::size_t count) {
-    return std::to_wstring(count) + L" - Not Found";
-}
+std::wstring NotFound(std::size_t count) { return std::to_wstring(count) + L" - Not Found"; }
 
 std::wstring NothingFoundYet(const ProgramState& state) {
     return LoadResText(state, kTextNotFound, L"0 - ");
@@ -49,9 +47,7 @@ std::wstring Diversity(int value) {
     return L"Less- diversity(" + std::to_wstring(value) + L") -More";
 }
 
-std::wstring ScoreText(std::int32_t percent) {
-    return std::to_wstring(percent) + L"%";
-}
+std::wstring ScoreText(std::int32_t percent) { return std::to_wstring(percent) + L"%"; }
 
 std::wstring PadScoreText(std::wstring_view text,
                           const std::function<int(std::wstring_view)>& width) {
@@ -75,8 +71,6 @@ std::wstring MainAddQuestion(const ProgramState& state) {
     return question;
 }
 
-std::wstring MainAddTitle(const ProgramState& state) {
-    return LoadResText(state, kTextAddToMain);
-}
+std::wstring MainAddTitle(const ProgramState& state) { return LoadResText(state, kTextAddToMain); }
 
 }  // namespace wordhawk::captions

@@ -85,15 +85,11 @@ bool FitsPage(std::wstring_view text, const AnsiCodePage& page) {
 
 std::string_view EncodingMark(TextEncoding encoding) {
     switch (encoding) {
-        case TextEncoding::Utf8WithMark:
-            return kUtf8Mark;
-        case TextEncoding::Utf16LittleEndian:
-            return kLittleEndianMark;
-        case TextEncoding::Utf16BigEndian:
-            return kBigEndianMark;
+        case TextEncoding::Utf8WithMark: return kUtf8Mark;
+        case TextEncoding::Utf16LittleEndian: return kLittleEndianMark;
+        case TextEncoding::Utf16BigEndian: return kBigEndianMark;
         case TextEncoding::Ansi:
-        case TextEncoding::Utf8:
-            break;
+        case TextEncoding::Utf8: break;
     }
     return {};
 }
@@ -115,19 +111,13 @@ TextEncoding DetectEncoding(std::string_view bytes) {
 void AppendDecoded(std::string_view bytes, TextEncoding encoding, const AnsiCodePage& page,
                    std::wstring& out) {
     switch (encoding) {
-        case TextEncoding::Ansi:
-            out += page.Decode(bytes);
-            break;
+        case TextEncoding::Ansi: out += page.Decode(bytes); break;
         case TextEncoding::Utf8:
-        case TextEncoding::Utf8WithMark:
-            AppendFromUtf8(bytes, out);
-            break;
+        case TextEncoding::Utf8WithMark: AppendFromUtf8(bytes, out); break;
         case TextEncoding::Utf16LittleEndian:
             AppendFromUtf16(bytes, ByteOrder::LowFirst, out);
             break;
-        case TextEncoding::Utf16BigEndian:
-            AppendFromUtf16(bytes, ByteOrder::HighFirst, out);
-            break;
+        case TextEncoding::Utf16BigEndian: AppendFromUtf16(bytes, ByteOrder::HighFirst, out); break;
     }
 }
 
@@ -148,19 +138,13 @@ std::string EncodeDocument(std::wstring_view text, TextEncoding encoding, LineEn
     }
     std::string bytes(EncodingMark(encoding));
     switch (encoding) {
-        case TextEncoding::Ansi:
-            bytes += page.Encode(lines);
-            break;
+        case TextEncoding::Ansi: bytes += page.Encode(lines); break;
         case TextEncoding::Utf8:
-        case TextEncoding::Utf8WithMark:
-            bytes += ToUtf8(lines);
-            break;
+        case TextEncoding::Utf8WithMark: bytes += ToUtf8(lines); break;
         case TextEncoding::Utf16LittleEndian:
             bytes += EncodeUtf16(lines, ByteOrder::LowFirst);
             break;
-        case TextEncoding::Utf16BigEndian:
-            bytes += EncodeUtf16(lines, ByteOrder::HighFirst);
-            break;
+        case TextEncoding::Utf16BigEndian: bytes += EncodeUtf16(lines, ByteOrder::HighFirst); break;
     }
     return bytes;
 }

@@ -92,9 +92,7 @@ SessionStep SpellSession::ContinueOrIgnoreAll() {
     return step;
 }
 
-SessionStep SpellSession::Ignore() {
-    return ContinueOrIgnoreAll();
-}
+SessionStep SpellSession::Ignore() { return ContinueOrIgnoreAll(); }
 
 SessionStep SpellSession::IgnoreAll() {
     if (!current_index_) return {};
@@ -191,9 +189,7 @@ std::size_t SpellSession::OccurrencesOf(std::size_t index) const {
     return index < ids_.size() ? positions_.Count(ids_[index]) : 0;
 }
 
-std::wstring SpellSession::NotFoundCaption() const {
-    return captions::NotFound(words_.size());
-}
+std::wstring SpellSession::NotFoundCaption() const { return captions::NotFound(words_.size()); }
 
 ButtonStates SpellSession::Buttons(std::wstring_view change_to) const {
     const bool word_shown = !Trim(current_).empty();

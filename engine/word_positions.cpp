@@ -13,9 +13,7 @@ namespace {
 constexpr std::uint32_t kHashSeed = 2166136261u;
 constexpr std::uint32_t kHashPrime = 16777619u;
 
-std::uint16_t LowerUnit(wchar_t c) {
-    return LowerTable()[static_cast<std::uint16_t>(c)];
-}
+std::uint16_t LowerUnit(wchar_t c) { return LowerTable()[static_cast<std::uint16_t>(c)]; }
 
 bool WordCharacterAt(std::wstring_view text, std::size_t i) {
     return i < text.size() && IsWordCharacter(text[i]);
@@ -80,9 +78,7 @@ std::vector<std::size_t> ReplacementStarts(std::wstring_view text, std::wstring_
     }
 }
 
-void WordPositions::Clear() {
-    *this = WordPositions();
-}
+void WordPositions::Clear() { *this = WordPositions(); }
 
 std::size_t WordPositions::Slot(std::uint32_t hash) const {
     return (hash ^ (hash >> 15)) & (table_.size() - 1);
@@ -237,9 +233,7 @@ TextOffset WordPositions::Next(Id id, TextOffset from) const {
     return place == places.end() ? kNotFound : static_cast<TextOffset>(*place);
 }
 
-std::size_t WordPositions::Count(Id id) const {
-    return ApartFromEachOther(words_[id]).size();
-}
+std::size_t WordPositions::Count(Id id) const { return ApartFromEachOther(words_[id]).size(); }
 
 std::vector<std::size_t> WordPositions::ReplacementStarts(Id id, std::wstring_view text,
                                                           std::wstring_view replacement) const {

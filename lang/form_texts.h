@@ -5,8 +5,8 @@
 
 namespace wordhawk {
 
-/// One of a control's tabs, toolbar buttons or ColumnHeaders, or of the ButtonMenus of a button. Only
-/// buttons have a Description and ButtonMenus.
+/// One of a control's tabs, toolbar buttons or ColumnHeaders, or of the ButtonMenus of a button.
+/// Only buttons have a Description and ButtonMenus.
 struct FormItem {
     std::wstring caption;
     std::wstring tag;

@@ -66,9 +66,8 @@ INT_PTR Dialog::ShowModal(HWND owner) {
     RegisterOwnClass(look);
     const Template layout(look.style, look.extended_style, look.class_name);
     modal_ = true;
-    const INT_PTR result =
-        DialogBoxIndirectParamW(GetModuleHandleW(nullptr), layout.Get(), owner, Procedure,
-                                reinterpret_cast<LPARAM>(this));
+    const INT_PTR result = DialogBoxIndirectParamW(GetModuleHandleW(nullptr), layout.Get(), owner,
+                                                   Procedure, reinterpret_cast<LPARAM>(this));
     modal_ = false;
     return result > 0 ? result : 0;
 }
@@ -102,9 +101,9 @@ void Dialog::RegisterOwnClass(const Look& look) const {
     made.hInstance = module;
     made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     made.lpszClassName = look.class_name;
-    made.hIcon = static_cast<HICON>(
-        LoadImageW(module, MAKEINTRESOURCEW(look.icon_id), IMAGE_ICON, GetSystemMetrics(SM_CXICON),
-                   GetSystemMetrics(SM_CYICON), LR_SHARED));
+    made.hIcon = static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(look.icon_id), IMAGE_ICON,
+                                               GetSystemMetrics(SM_CXICON),
+                                               GetSystemMetrics(SM_CYICON), LR_SHARED));
     made.hIconSm = static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(look.icon_id), IMAGE_ICON,
                                                  GetSystemMetrics(SM_CXSMICON),
                                                  GetSystemMetrics(SM_CYSMICON), LR_SHARED));
@@ -155,15 +154,18 @@ Dialog::Reply Dialog::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 bool Dialog::PreTranslate(MSG& message) {
     if (handle_ == nullptr) return false;
     if (message.hwnd != handle_ && !IsChild(handle_, message.hwnd)) return false;
+    const bool is_key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
     try {
-        if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST && OnKey(message)) {
-            return true;
-        }
+        if (is_key && OnKey(message)) return true;
     } catch (...) {
         return true;
     }
-    // OnKey may have closed the window.
-    return handle_ == nullptr || IsDialogMessageW(handle_, &message);
+    // OnKey may have closed the window, and so may whatever the dialog manager calls.
+    if (handle_ == nullptr) return true;
+    const HWND focus_before = GetFocus();
+    if (!IsDialogMessageW(handle_, &message)) return false;
+    if (is_key && handle_ != nullptr) OnKeyHandled(message.message, focus_before);
+    return true;
 }
 
 INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wparam,
@@ -194,11 +196,8 @@ INT_PTR CALLBACK Dialog::Procedure(HWND window, UINT message, WPARAM wparam,
         case WM_COMPAREITEM:
         case WM_VKEYTOITEM:
         case WM_CHARTOITEM:
-        case WM_QUERYDRAGICON:
-            return *reply;
-        default:
-            SetWindowLongPtrW(window, DWLP_MSGRESULT, *reply);
-            return TRUE;
+        case WM_QUERYDRAGICON: return *reply;
+        default: SetWindowLongPtrW(window, DWLP_MSGRESULT, *reply); return TRUE;
     }
 }
 

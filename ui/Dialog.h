@@ -38,6 +38,9 @@ class Dialog : public MessageHandler {
     virtual void OnInit() = 0;
     /// First refusal of a key before the dialog manager sees it.
     virtual bool OnKey(const MSG&) { return false; }
+    /// The dialog manager has handled a key's message, which may have moved the keyboard away from
+    /// `focus_before`.
+    virtual void OnKeyHandled(UINT /*message*/, HWND /*focus_before*/) {}
     /// Fonts changed with the monitor's DPI; controls have them already.
     virtual void OnFontsChanged() {}
 

@@ -10,10 +10,9 @@ void ButtonDrag::Attach(NewSpellControls& controls, std::function<void()> rearra
     movable_ = {&controls.cmdChange, &controls.cmdChangeAll, &controls.cmdIgnore,
                 &controls.cmdIgnoreAll};
     for (std::size_t i = 0; i < movable_.size(); ++i) {
-        subclasses_[i].Install(movable_[i]->Handle(),
-                               [this, i](UINT message, WPARAM, LPARAM) {
-                                   return OnMouse(*movable_[i], message);
-                               });
+        subclasses_[i].Install(movable_[i]->Handle(), [this, i](UINT message, WPARAM, LPARAM) {
+            return OnMouse(*movable_[i], message);
+        });
     }
 }
 
@@ -33,11 +32,8 @@ std::optional<LRESULT> ButtonDrag::OnMouse(Button& button, UINT message) {
             if (dropped) Drop(button, screen);
             return 0;
         }
-        case WM_CAPTURECHANGED:
-            dragged_ = nullptr;
-            return {};
-        default:
-            return {};
+        case WM_CAPTURECHANGED: dragged_ = nullptr; return {};
+        default: return {};
     }
 }
 

@@ -38,11 +38,13 @@ void CorrectionCommands::Reset() {
 }
 
 void CorrectionCommands::ChangeAll() {
-    const std::size_t count = session.CurrentIndex() ? session.OccurrencesOf(*session.CurrentIndex()) : 0;
+    const std::size_t count =
+        session.CurrentIndex() ? session.OccurrencesOf(*session.CurrentIndex()) : 0;
     const SessionStep step = session.ChangeAll(parts_.controls.txtChgTo.Text());
     Run(step);
     if (step.kind != SessionStep::Kind::Nothing && count > 1) {
-        parts_.status.Say(Filled(LoadResText(parts_.program.state, text_id::kChanged), {std::to_wstring(count)}));
+        parts_.status.Say(
+            Filled(LoadResText(parts_.program.state, text_id::kChanged), {std::to_wstring(count)}));
     }
 }
 
@@ -77,17 +79,10 @@ void CorrectionCommands::Run(const SessionStep& step) {
     if (step.recent_changed) ShowRecent();
     TellOfAdd(step);
     switch (step.kind) {
-        case SessionStep::Kind::Nothing:
-            break;
-        case SessionStep::Kind::NextOccurrence:
-            ShowSuggestions();
-            break;
-        case SessionStep::Kind::NewWord:
-            ShowWord();
-            break;
-        case SessionStep::Kind::Finished:
-            Finish(step);
-            break;
+        case SessionStep::Kind::Nothing: break;
+        case SessionStep::Kind::NextOccurrence: ShowSuggestions(); break;
+        case SessionStep::Kind::NewWord: ShowWord(); break;
+        case SessionStep::Kind::Finished: Finish(step); break;
     }
     UpdateButtons();
 }

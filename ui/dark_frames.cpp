@@ -39,8 +39,9 @@ void DarkFrames::AttachTo(HWND control) {
             return 0;
         },
         [this, control, sort](UINT message) {
-            const bool framed = sort == Sort::Document ? theme_.Current() != Theme::Kind::HighContrast
-                                                       : sort == Sort::Box && theme_.Dark();
+            const bool framed = sort == Sort::Document
+                                    ? theme_.Current() != Theme::Kind::HighContrast
+                                    : sort == Sort::Box && theme_.Dark();
             if (message == WM_NCPAINT && framed) PaintFrame(control, sort);
         });
     subclasses_.push_back(std::move(subclass));

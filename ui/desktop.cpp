@@ -19,7 +19,8 @@ std::optional<FileChoice> SystemFileDialogs::AskOpen(HWND owner, const std::wstr
                                                      const std::wstring& filters) {
     std::wstring name;
     std::wstring file_title;
-    if (!modCDlg::ShowOpen(MakeRequest(owner, title, filters), name, file_title)) return std::nullopt;
+    if (!modCDlg::ShowOpen(MakeRequest(owner, title, filters), name, file_title))
+        return std::nullopt;
     return FileChoice{PathFromText(name), DocumentKind::Plain};
 }
 
@@ -33,8 +34,7 @@ std::optional<FileChoice> SystemFileDialogs::AskSave(HWND owner, const std::wstr
     std::wstring name;
     std::wstring file_title;
     if (!modCDlg::ShowSave(request, L"txt", filter, name, file_title)) return std::nullopt;
-    return FileChoice{PathFromText(name),
-                      filter == 2 ? DocumentKind::Rich : DocumentKind::Plain};
+    return FileChoice{PathFromText(name), filter == 2 ? DocumentKind::Rich : DocumentKind::Plain};
 }
 
 int SystemMenuTracker::Track(HWND owner, HMENU menu, POINT screen) {

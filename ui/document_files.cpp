@@ -16,8 +16,9 @@ std::wstring DocumentFiles::Filters() const {
 
 bool DocumentFiles::Load(const Path& file, bool rich) {
     const Hourglass busy(parts_.program.ui);
-    const Result<void> loaded = rich ? parts_.document.LoadRichFile(file)
-                                     : parts_.document.LoadPlainFile(file, *parts_.program.state.CodePage);
+    const Result<void> loaded =
+        rich ? parts_.document.LoadRichFile(file)
+             : parts_.document.LoadPlainFile(file, *parts_.program.state.CodePage);
     if (!loaded) {
         parts_.commands.ShowError(text_id::kCannotRead, loaded.error());
         return false;
@@ -62,17 +63,17 @@ bool DocumentFiles::SaveBack() {
         return true;
     }
     const Path file = PathFromText(CommandFile());
-    const Result<void> saved = command_file_is_rich_
-                                   ? parts_.document.SaveRichFile(file)
-                                   : parts_.document.SavePlainFile(file, *parts_.program.state.CodePage);
+    const Result<void> saved =
+        command_file_is_rich_ ? parts_.document.SaveRichFile(file)
+                              : parts_.document.SavePlainFile(file, *parts_.program.state.CodePage);
     if (!saved) parts_.commands.ShowError(text_id::kCannotWrite, saved.error());
     return saved.has_value();
 }
 
 void DocumentFiles::SaveAs(HWND owner) {
     const auto choice =
-        parts_.desktop.files.AskSave(owner, LoadResText(parts_.program.state, text_id::kSaveAs), Filters(),
-                                     parts_.program.state.DataFolder / "Saves");
+        parts_.desktop.files.AskSave(owner, LoadResText(parts_.program.state, text_id::kSaveAs),
+                                     Filters(), parts_.program.state.DataFolder / "Saves");
     if (!choice || parts_.document.Empty()) return;
     const Result<void> saved =
         choice->filter == DocumentKind::Rich
@@ -99,9 +100,9 @@ void DocumentFiles::SetClipboard() {
     const Settings& settings = parts_.program.settings;
     if (!settings.SetClip || parts_.document.Empty()) return;
     Clipboard& clipboard = parts_.desktop.clipboard;
-    const bool done = settings.ClipType
-                          ? clipboard.SetRichText(parts_.document.RichText(), parts_.document.Text())
-                          : clipboard.SetPlainText(parts_.document.Text());
+    const bool done = settings.ClipType ? clipboard.SetRichText(parts_.document.RichText(),
+                                                                parts_.document.Text())
+                                        : clipboard.SetPlainText(parts_.document.Text());
     if (!done) parts_.commands.ShowError(text_id::kClipboardInUse, {});
 }
 

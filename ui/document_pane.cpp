@@ -84,9 +84,7 @@ std::optional<LRESULT> DocumentPane::Filter(UINT message, WPARAM wparam, LPARAM 
             if (undoing_) return {};
             Undo();
             return TRUE;
-        case WM_PASTE:
-            Paste();
-            return 0;
+        case WM_PASTE: Paste(); return 0;
         case WM_RBUTTONDOWN:
             // The menu that follows works on the active control.
             rtbW.SetFocus();
@@ -98,8 +96,7 @@ std::optional<LRESULT> DocumentPane::Filter(UINT message, WPARAM wparam, LPARAM 
                          reinterpret_cast<WPARAM>(rtbW.Handle()), MAKELPARAM(screen.x, screen.y));
             return 0;
         }
-        default:
-            return {};
+        default: return {};
     }
 }
 
@@ -211,8 +208,7 @@ void DocumentPane::Undo() {
 void DocumentPane::Paste() {
     // Rich before plain, and never the control's own way, which would let objects in.
     if (const auto rtf = clipboard_.HasRichText() ? clipboard_.RichText() : std::nullopt) {
-        if (LooksLikeRtf(*rtf) &&
-            rtbW.SetRtf(RtfWithoutObjects(*rtf), RichEdit::Into::Selection)) {
+        if (LooksLikeRtf(*rtf) && rtbW.SetRtf(RtfWithoutObjects(*rtf), RichEdit::Into::Selection)) {
             return;
         }
     }

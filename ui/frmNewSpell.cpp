@@ -60,9 +60,7 @@ bool frmNewSpell::Show() {
     return true;
 }
 
-void frmNewSpell::Form_Initialize() {
-    modICCX::InitCommonControlsVB(modICCX::kAllClasses);
-}
+void frmNewSpell::Form_Initialize() { modICCX::InitCommonControlsVB(modICCX::kAllClasses); }
 
 void frmNewSpell::OnInit() {
     tips_.Create(handle_);
@@ -88,8 +86,8 @@ void frmNewSpell::OnInit() {
 
 void frmNewSpell::SetWordPointer() {
     const auto pointer = static_cast<HCURSOR>(
-        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(WORDHAWK_COPY_CURSOR), IMAGE_CURSOR, 0, 0,
-                   LR_DEFAULTSIZE | LR_SHARED));
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(WORDHAWK_COPY_CURSOR), IMAGE_CURSOR,
+                   0, 0, LR_DEFAULTSIZE | LR_SHARED));
     if (pointer == nullptr) return;
     word_pointer_.Install(lblNID.Handle(),
                           [pointer](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
@@ -118,7 +116,8 @@ void frmNewSpell::Form_Load() {
     GetObjectW(Font(), sizeof font, &font);
     document.SetLook(font.lfFaceName, 20);
     document.RememberFontName();
-    if (program_.state.ProgramMode && program_.state.CommandFile.empty() && program_.settings.CheckClip) {
+    if (program_.state.ProgramMode && program_.state.CommandFile.empty() &&
+        program_.settings.CheckClip) {
         files_.TakeClipboard();
     }
     commands_.UpdateButtons();
@@ -260,7 +259,8 @@ void frmNewSpell::Finished(const SessionStep& step) {
 
 void frmNewSpell::cmdSuggestions_Click() {
     const std::wstring text = txtChgTo.Text();
-    suggestions_.FillSuggestions(Trim(text), SuggestionPane::SkipListed::No, program_.settings.SortBy);
+    suggestions_.FillSuggestions(Trim(text), SuggestionPane::SkipListed::No,
+                                 program_.settings.SortBy);
     commands_.UpdateButtons();
 }
 

@@ -75,9 +75,11 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     bool OptionsShown() const { return geometry_.OptionsShown(); }
     bool CloseIsPending() const { return tmrBye_.Enabled(); }
 
-    /// Takes over the words that a check found and goes to the one that comes first in the document.
-    /// False when there is none.
-    bool FindNextToStart(std::vector<std::wstring> words) { return commands_.Begin(std::move(words)); }
+    /// Takes over the words that a check found and goes to the one that comes first in the
+    /// document. False when there is none.
+    bool FindNextToStart(std::vector<std::wstring> words) {
+        return commands_.Begin(std::move(words));
+    }
     /// Goes to an entry of the list: its word is selected in the document and gets its suggestions.
     void FindItNow(int index) { commands_.SelectWord(index); }
 
@@ -117,6 +119,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void OnInit() override;
     void OnFontsChanged() override;
     bool OnKey(const MSG& message) override;
+    void OnKeyHandled(UINT message, HWND focus_before) override;
     Reply OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
     bool OnCommand(const ControlEvent& event) override;
     Reply OnNotify(NMHDR& news) override;
@@ -153,6 +156,8 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void ShowCustomDictionaries();
     void ShowTitle();
     void KeepFocus();
+    void GiveFocusBack(HWND control);
+    Button* FocusedButton();
     layout::Measure MeasureNow() const { return {Dpi(), Font()}; }
 
     Program& program_;

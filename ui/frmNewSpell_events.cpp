@@ -16,8 +16,9 @@ bool frmNewSpell::OnCommand(const ControlEvent& event) {
         cmdCancel_Click();
         return true;
     }
-    const bool is_button = (event.id >= main_id::cmdChange && event.id <= main_id::cmdPreferences) ||
-                           event.id == main_id::cmdUndoAdd;
+    const bool is_button =
+        (event.id >= main_id::cmdChange && event.id <= main_id::cmdPreferences) ||
+        event.id == main_id::cmdUndoAdd;
     if (is_button) {
         return event.code == BN_CLICKED && OnButton(event.id);
     }
@@ -91,13 +92,13 @@ bool frmNewSpell::OnTimer(UINT_PTR id) {
 
 bool frmNewSpell::OnKey(const MSG& message) {
     const auto key = static_cast<UINT>(message.wParam);
-    const bool control = GetKeyState(VK_CONTROL) < 0;
+    // The right Alt key of many keyboards counts as both, and writes letters.
+    const bool control = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
     const bool shift = GetKeyState(VK_SHIFT) < 0;
     switch (message.message) {
-        case WM_SYSKEYUP:
-            return !control && !shift && Form_KeyUp(key);
+        case WM_SYSKEYUP: return GetKeyState(VK_CONTROL) >= 0 && !shift && Form_KeyUp(key);
         case WM_SYSKEYDOWN:
-            if (key < '1' || key > '9' || control || shift) return false;
+            if (key < '1' || key > '9' || GetKeyState(VK_CONTROL) < 0 || shift) return false;
             suggestions_.Pick(static_cast<int>(key - '0'));
             return true;
         case WM_KEYDOWN:
@@ -108,15 +109,13 @@ bool frmNewSpell::OnKey(const MSG& message) {
             if (key == VK_RETURN) return OnEnter();
             return key == VK_F7 || (key == VK_ESCAPE && handle_ == nullptr) ||
                    ((key == 'O' || key == 'S') && control);
-        default:
-            return false;
+        default: return false;
     }
 }
 
 bool frmNewSpell::OnEnter() {
-    const HWND focus = GetFocus();
     if (rtbW.HasFocus()) return false;
-    if (Button* button = ButtonWithId(GetDlgCtrlID(focus)); button != nullptr && button->Handle() == focus) {
+    if (Button* button = FocusedButton()) {
         button->Click();
         return true;
     }
@@ -144,7 +143,8 @@ bool frmNewSpell::Form_KeyUp(UINT key) {
 bool frmNewSpell::OnContextMenu(const ContextRequest& request) {
     PopupMenu* menu = menu_commands_.MenuOf(request.control);
     if (menu == nullptr) return false;
-    if (request.control == lstSug.Handle() && !request.by_keyboard) SelectSuggestionUnder(request.screen);
+    if (request.control == lstSug.Handle() && !request.by_keyboard)
+        SelectSuggestionUnder(request.screen);
     ShowMenu(*menu, request);
     return true;
 }
@@ -171,19 +171,13 @@ void frmNewSpell::ShowMenu(PopupMenu& menu, const ContextRequest& request) {
     KeepFocus();
 }
 
-void frmNewSpell::OnInitMenu(HMENU menu) {
-    menu_commands_.Update(menu);
-}
+void frmNewSpell::OnInitMenu(HMENU menu) { menu_commands_.Update(menu); }
 
 // ---- looks ----
 
-void frmNewSpell::OnSize(int, int) {
-    Form_Resize();
-}
+void frmNewSpell::OnSize(int, int) { Form_Resize(); }
 
-void frmNewSpell::OnMinimumSize(SIZE& smallest) {
-    smallest = MainGeometry::Smallest(Dpi());
-}
+void frmNewSpell::OnMinimumSize(SIZE& smallest) { smallest = MainGeometry::Smallest(Dpi()); }
 
 void frmNewSpell::OnFontsChanged() {
     const int height = EntryHeight(Font(), Dpi());
@@ -235,7 +229,8 @@ bool frmNewSpell::OnMeasureItem(MEASUREITEMSTRUCT& item) {
 frmNewSpell::Reply frmNewSpell::OnNotify(NMHDR& news) {
     if (news.code == static_cast<UINT>(NM_CUSTOMDRAW)) {
         if (Button* button = ButtonWithId(static_cast<int>(news.idFrom))) {
-            return DrawButton(theme_, reinterpret_cast<const NMCUSTOMDRAW&>(news), button == &cmdChange);
+            return DrawButton(theme_, reinterpret_cast<const NMCUSTOMDRAW&>(news),
+                              button == &cmdChange);
         }
     }
     return {};
@@ -255,7 +250,8 @@ frmNewSpell::Reply frmNewSpell::OnMessage(UINT message, WPARAM wparam, LPARAM lp
 void frmNewSpell::KeepFocus() {
     if (handle_ == nullptr || GetActiveWindow() != handle_) return;
     const HWND focus = GetFocus();
-    if (focus != nullptr && focus != handle_ && IsWindowEnabled(focus) && IsWindowVisible(focus)) return;
+    if (focus != nullptr && focus != handle_ && IsWindowEnabled(focus) && IsWindowVisible(focus))
+        return;
     const Control* const wanted[] = {&cmdChange, &txtChgTo, &rtbW};
     for (const Control* control : wanted) {
         if (control == &txtChgTo && commands_.session.Words().empty()) continue;
@@ -263,6 +259,30 @@ void frmNewSpell::KeepFocus() {
         control->SetFocus();
         return;
     }
+}
+
+void frmNewSpell::OnKeyHandled(UINT message, HWND focus_before) {
+    if (message == WM_SYSCHAR) GiveFocusBack(focus_before);
+    // The dialog manager looks for the button that Enter presses among the form's own children, and
+    // so does not see that it is in a panel.
+    const Button* focused = FocusedButton();
+    cmdChange.SetDefault(focused == nullptr || focused == &cmdChange);
+}
+
+// A command given by its access key leaves the keyboard where it was: else the next Enter would
+// press the same button again instead of taking the suggestion.
+void frmNewSpell::GiveFocusBack(HWND control) {
+    const Button* pressed = FocusedButton();
+    if (pressed == nullptr || pressed->Handle() == control || GetActiveWindow() != handle_) return;
+    if (IsWindowEnabled(control) && IsWindowVisible(control)) {
+        SendMessageW(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+    }
+}
+
+Button* frmNewSpell::FocusedButton() {
+    const HWND focus = GetFocus();
+    Button* button = ButtonWithId(GetDlgCtrlID(focus));
+    return button != nullptr && button->Handle() == focus ? button : nullptr;
 }
 
 // The dialog manager gives the focus back after another window had it only to a control that can

@@ -19,7 +19,8 @@ class ItemNode : public Node {
     bool Shown() const override { return control_.Visible(); }
     int Width(const Measure& measure) const override {
         if (size_.width != 0) return measure.Scaled(size_.width);
-        return static_cast<int>(measure.TextSize(control_.Text()).cx) + 2 * measure.Scaled(kButtonPadding);
+        return static_cast<int>(measure.TextSize(control_.Text()).cx) +
+               2 * measure.Scaled(kButtonPadding);
     }
     int Height(int, const Measure& measure) const override {
         if (size_.height != 0) return measure.Scaled(size_.height);
@@ -113,8 +114,7 @@ class Line : public Node {
         return stretches;
     }
     int Gaps(const std::vector<const Node*>& children, const Measure& measure) const {
-        return children.empty() ? 0
-                                : static_cast<int>(children.size() - 1) * measure.Scaled(gap_);
+        return children.empty() ? 0 : static_cast<int>(children.size() - 1) * measure.Scaled(gap_);
     }
 
     int gap_;
@@ -300,9 +300,7 @@ NodePtr Text(const Control& label, int stretch) {
     return std::make_unique<TextNode>(label, stretch);
 }
 
-NodePtr Space(Size size, int stretch) {
-    return std::make_unique<SpaceNode>(size, stretch);
-}
+NodePtr Space(Size size, int stretch) { return std::make_unique<SpaceNode>(size, stretch); }
 
 NodePtr Row(int gap, std::vector<NodePtr> children, int stretch) {
     return std::make_unique<RowNode>(gap, std::move(children), stretch);

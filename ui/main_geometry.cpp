@@ -14,9 +14,7 @@ void MoveTo(HWND form, const RECT& bounds) {
                  bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-bool IsMaximized(HWND form) {
-    return IsZoomed(form) != FALSE;
-}
+bool IsMaximized(HWND form) { return IsZoomed(form) != FALSE; }
 
 }  // namespace
 
@@ -34,10 +32,10 @@ void MainGeometry::Restore(HWND form, const layout::Measure& measure) {
     if (!saved) return;
     const SIZE smallest = Smallest(measure.dpi);
     RECT bounds = saved->bounds;
-    const LONG width =
-        std::max<LONG>(MulDiv(static_cast<int>(bounds.right - bounds.left), measure.dpi, saved->dpi), smallest.cx);
-    const LONG height =
-        std::max<LONG>(MulDiv(static_cast<int>(bounds.bottom - bounds.top), measure.dpi, saved->dpi), smallest.cy);
+    const LONG width = std::max<LONG>(
+        MulDiv(static_cast<int>(bounds.right - bounds.left), measure.dpi, saved->dpi), smallest.cx);
+    const LONG height = std::max<LONG>(
+        MulDiv(static_cast<int>(bounds.bottom - bounds.top), measure.dpi, saved->dpi), smallest.cy);
     bounds.right = bounds.left + width + (options_shown_ ? controls_.OptionsWidth(measure) : 0);
     bounds.bottom = bounds.top + height;
     MoveTo(form, WithinScreen(bounds));

@@ -5,8 +5,8 @@
 
 namespace wordhawk {
 
-/// Size and place of the main window: the smallest size, the options panel that widens it, and where
-/// it stood the last time.
+/// Size and place of the main window: the smallest size, the options panel that widens it, and
+/// where it stood the last time.
 class MainGeometry {
   public:
     static constexpr int kMinimumWidth = 336;
@@ -24,7 +24,9 @@ class MainGeometry {
     void ToggleOptions(HWND form, const layout::Measure& measure);
     /// Fits the panels and all controls into the form's client area.
     void Arrange(HWND form, const layout::Measure& measure);
-    static SIZE Smallest(int dpi) { return {MulDiv(kMinimumWidth, dpi, 96), MulDiv(kMinimumHeight, dpi, 96)}; }
+    static SIZE Smallest(int dpi) {
+        return {MulDiv(kMinimumWidth, dpi, 96), MulDiv(kMinimumHeight, dpi, 96)};
+    }
 
   private:
     NewSpellControls& controls_;

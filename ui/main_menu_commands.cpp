@@ -34,7 +34,8 @@ void MainMenuCommands::Update(HMENU menu) {
         const bool selected = parts_.suggestions.HasSelection();
         menus.mnuRemove[MainMenus::kRemove]->SetEnabled(selected);
         menus.mnuRemove[MainMenus::kCopySuggestion]->SetEnabled(selected);
-        menus.mnuRemove[MainMenus::kCopySuggestions]->SetEnabled(parts_.controls.lstSug.Count() > 0);
+        menus.mnuRemove[MainMenus::kCopySuggestions]->SetEnabled(parts_.controls.lstSug.Count() >
+                                                                 0);
     }
     if (menu == menus.mnuList.Handle()) {
         menus.mnuList[0]->SetEnabled(parts_.controls.lstNID.Selected() >= 0);
@@ -42,7 +43,8 @@ void MainMenuCommands::Update(HMENU menu) {
     }
     if (menu == menus.mnuCust.Handle()) {
         const bool can_add = parts_.controls.cmdAdd[1].Enabled();
-        for (std::size_t i = 0; i < menus.mnuCust.Count(); ++i) menus.mnuCust[i]->SetEnabled(can_add);
+        for (std::size_t i = 0; i < menus.mnuCust.Count(); ++i)
+            menus.mnuCust[i]->SetEnabled(can_add);
     }
 }
 
@@ -54,7 +56,8 @@ void MainMenuCommands::UpdateFileMenu() {
     menus.mnuFile[MainMenus::kUndo]->SetEnabled(c.document.CanUndo());
     menus.mnuFile[MainMenus::kCut]->SetEnabled(has_selection);
     menus.mnuFile[MainMenus::kCopy]->SetEnabled(has_selection);
-    menus.mnuFile[MainMenus::kPaste]->SetEnabled(clipboard.HasPlainText() || clipboard.HasRichText());
+    menus.mnuFile[MainMenus::kPaste]->SetEnabled(clipboard.HasPlainText() ||
+                                                 clipboard.HasRichText());
     menus.mnuFile[MainMenus::kDelete]->SetEnabled(has_selection);
     menus.mnuFile[MainMenus::kSelectAll]->SetEnabled(!c.document.Empty());
 }

@@ -100,7 +100,8 @@ std::optional<MainMenus::Choice> MainMenus::Decode(int command) const {
                             {&mnuFile, kFileBase}};
     for (const Range& range : ranges) {
         const int index = command - range.base;
-        if (index >= 0 && index < static_cast<int>(range.menu->Count())) return Choice{range.menu, index};
+        if (index >= 0 && index < static_cast<int>(range.menu->Count()))
+            return Choice{range.menu, index};
     }
     return std::nullopt;
 }

@@ -14,8 +14,23 @@ namespace wordhawk {
 class MainMenus {
   public:
     /// Indexes of mnuFiles, of mnuSearchBy and of mnuRemoveWord.
-    enum FileItem { kUndo, kSeparatorAfterUndo, kCut, kCopy, kPaste, kDelete, kSeparatorAfterDelete, kSelectAll };
-    enum RemoveItem { kRemoveHeading, kRemove, kSeparatorAfterRemove, kCopySuggestion, kCopySuggestions };
+    enum FileItem {
+        kUndo,
+        kSeparatorAfterUndo,
+        kCut,
+        kCopy,
+        kPaste,
+        kDelete,
+        kSeparatorAfterDelete,
+        kSelectAll
+    };
+    enum RemoveItem {
+        kRemoveHeading,
+        kRemove,
+        kSeparatorAfterRemove,
+        kCopySuggestion,
+        kCopySuggestions
+    };
     static constexpr int kSearchModes = 3;
 
     MainMenus();

@@ -42,11 +42,11 @@ MessageHandler::Reply MessageHandler::OnMessage(UINT message, WPARAM wparam, LPA
 MessageHandler::Reply MessageHandler::OnChildMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_COMMAND: {
-            const ControlEvent event{LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam)};
+            const ControlEvent event{LOWORD(wparam), HIWORD(wparam),
+                                     reinterpret_cast<HWND>(lparam)};
             return OnCommand(event) ? Reply(0) : Reply();
         }
-        case WM_NOTIFY:
-            return OnNotify(*reinterpret_cast<NMHDR*>(lparam));
+        case WM_NOTIFY: return OnNotify(*reinterpret_cast<NMHDR*>(lparam));
         case WM_HSCROLL:
         case WM_VSCROLL:
             if (lparam != 0) OnScroll(reinterpret_cast<HWND>(lparam));
@@ -71,11 +71,8 @@ MessageHandler::Reply MessageHandler::OnChildMessage(UINT message, WPARAM wparam
                                    lparam == -1};
             return OnContextMenu(request) ? Reply(0) : Reply();
         }
-        case WM_INITMENUPOPUP:
-            OnInitMenu(reinterpret_cast<HMENU>(wparam));
-            return {};
-        default:
-            return {};
+        case WM_INITMENUPOPUP: OnInitMenu(reinterpret_cast<HMENU>(wparam)); return {};
+        default: return {};
     }
 }
 
@@ -99,28 +96,17 @@ MessageHandler::Reply MessageHandler::OnWindowMessage(UINT message, WPARAM wpara
             OnDpiChanged(HIWORD(wparam));
             return 0;
         }
-        case WM_TIMER:
-            return OnTimer(wparam) ? Reply(0) : Reply();
-        case WM_CLOSE:
-            return OnClose() ? Reply(0) : Reply();
-        case WM_DESTROY:
-            OnDestroy();
-            return {};
+        case WM_TIMER: return OnTimer(wparam) ? Reply(0) : Reply();
+        case WM_CLOSE: return OnClose() ? Reply(0) : Reply();
+        case WM_DESTROY: OnDestroy(); return {};
         case WM_ERASEBKGND:
             return OnEraseBackground(reinterpret_cast<HDC>(wparam)) ? Reply(1) : Reply();
-        case WM_DROPFILES:
-            OnDropFiles(TakeFiles(reinterpret_cast<HDROP>(wparam)));
-            return 0;
+        case WM_DROPFILES: OnDropFiles(TakeFiles(reinterpret_cast<HDROP>(wparam))); return 0;
         case WM_SETTINGCHANGE:
         case WM_SYSCOLORCHANGE:
-        case WM_THEMECHANGED:
-            OnAppearanceChanged();
-            return {};
-        case WM_ACTIVATE:
-            OnActivate(LOWORD(wparam) != WA_INACTIVE);
-            return {};
-        default:
-            return {};
+        case WM_THEMECHANGED: OnAppearanceChanged(); return {};
+        case WM_ACTIVATE: OnActivate(LOWORD(wparam) != WA_INACTIVE); return {};
+        default: return {};
     }
 }
 

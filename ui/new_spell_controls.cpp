@@ -18,8 +18,8 @@ void NewSpellControls::CreateAll(HWND form, ToolTips& tips) {
     CreateMain(tips);
     CreateOptions(tips);
     ShowWindow(pic1.Handle(), SW_SHOW);
-    button_order_ = {&cmdChange,  &cmdChangeAll,   &cmdIgnore,     &cmdIgnoreAll,
-                     &cmdAdd[0],  &cmdAddAll[0],   &cmdAdd[1],     &cmdAddAll[1],
+    button_order_ = {&cmdChange,      &cmdChangeAll,  &cmdIgnore,  &cmdIgnoreAll,
+                     &cmdAdd[0],      &cmdAddAll[0],  &cmdAdd[1],  &cmdAddAll[1],
                      &cmdSuggestions, &cmdSpellcheck, &cmdOptions, &cmdCancel};
 }
 
@@ -74,14 +74,14 @@ void NewSpellControls::CreateOptions(ToolTips& tips) {
 }
 
 std::vector<FormControl*> NewSpellControls::All() {
-    return {&rtbW,       &lstNID,       &lblNID,         &lblNIL,        &lblCnt,
-            &txtChgTo,   &cboChgTo,     &lstSug,         &lstSco,        &cboDicts,
-            &hsScore,    &hsdiversity,  &lblScore,       &lbldiversity,  &lblDum[0],
-            &lblDum[1],  &lblDum[2],    &lblCD,          &cmdChange,     &cmdChangeAll,
-            &cmdIgnore,  &cmdIgnoreAll, &cmdAdd[0],      &cmdAdd[1],     &cmdAddAll[0],
-            &cmdAddAll[1], &cmdCancel,  &cmdCopyData,    &cmdSpellcheck, &cmdSuggestions,
-            &cmdOpen,    &cmdSaveAs,    &cmdOptions,     &cmdPreferences, &lblStatus,
-            &cmdUndoAdd, &lblDocumentName, &lblRecentName};
+    return {&rtbW,         &lstNID,          &lblNID,       &lblNIL,         &lblCnt,
+            &txtChgTo,     &cboChgTo,        &lstSug,       &lstSco,         &cboDicts,
+            &hsScore,      &hsdiversity,     &lblScore,     &lbldiversity,   &lblDum[0],
+            &lblDum[1],    &lblDum[2],       &lblCD,        &cmdChange,      &cmdChangeAll,
+            &cmdIgnore,    &cmdIgnoreAll,    &cmdAdd[0],    &cmdAdd[1],      &cmdAddAll[0],
+            &cmdAddAll[1], &cmdCancel,       &cmdCopyData,  &cmdSpellcheck,  &cmdSuggestions,
+            &cmdOpen,      &cmdSaveAs,       &cmdOptions,   &cmdPreferences, &lblStatus,
+            &cmdUndoAdd,   &lblDocumentName, &lblRecentName};
 }
 
 Button* NewSpellControls::ButtonWithId(int id) {
@@ -107,8 +107,9 @@ layout::NodePtr NewSpellControls::OptionsLayout() const {
 int NewSpellControls::OptionsWidth(const layout::Measure& measure) const {
     // The captions of the panel set its width in every language, even while it is hidden.
     int widest = measure.Scaled(150);
-    for (const Control* control : std::initializer_list<const Control*>{
-             &lblScore, &lbldiversity, &lblCD, &cmdOpen, &cmdSaveAs, &cmdPreferences, &cmdCopyData}) {
+    for (const Control* control :
+         std::initializer_list<const Control*>{&lblScore, &lbldiversity, &lblCD, &cmdOpen,
+                                               &cmdSaveAs, &cmdPreferences, &cmdCopyData}) {
         widest = std::max(widest, static_cast<int>(measure.TextSize(control->Text()).cx));
     }
     return widest + 2 * measure.Scaled(11);
@@ -122,15 +123,18 @@ void NewSpellControls::ArrangeOptions(const layout::Measure& measure) const {
 
 void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
     using namespace layout;
-    NodePtr words = Column(
-        4, List(Text(lblDum[0]), Item(lblNID, {60, kFieldHeight}), Item(lstNID, {80, 60}, 1),
-                Text(lblNIL)), 5);
-    NodePtr suggestions = Column(
-        4, List(Text(lblDum[1]),
-                Row(4, List(Item(txtChgTo, {60, kFieldHeight}, 1),
-                            Item(cboChgTo, {46, kFieldHeight}, 0, Fill::Centred))),
-                Row(4, List(Item(lstSug, {60, 60}, 1), Item(lstSco, {62, 60}, 0)), 1),
-                Row(4, List(Text(lblCnt, 1), Item(lblDum[2], {62, 0}, 0, Fill::Centred)))), 6);
+    NodePtr words = Column(4,
+                           List(Text(lblDum[0]), Item(lblNID, {60, kFieldHeight}),
+                                Item(lstNID, {80, 60}, 1), Text(lblNIL)),
+                           5);
+    NodePtr suggestions =
+        Column(4,
+               List(Text(lblDum[1]),
+                    Row(4, List(Item(txtChgTo, {60, kFieldHeight}, 1),
+                                Item(cboChgTo, {46, kFieldHeight}, 0, Fill::Centred))),
+                    Row(4, List(Item(lstSug, {60, 60}, 1), Item(lstSco, {62, 60}, 0)), 1),
+                    Row(4, List(Text(lblCnt, 1), Item(lblDum[2], {62, 0}, 0, Fill::Centred)))),
+               6);
     NodePtr lists = Row(9, List(std::move(words), std::move(suggestions)), 4);
     NodePtr buttons = Buttons(5, 4, button_order_);
     // As high without its button as with it, so that nothing moves when the button comes.
@@ -144,8 +148,9 @@ void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
                               std::move(buttons), std::move(status)));
     } else {
         // A wide window has the document beside the words, not lines of a yard above them.
-        body = Column(7, List(Row(11, List(Item(document.rtbW, {100, 70}, 5),
-                                           Column(7, List(std::move(lists), std::move(buttons)), 4)),
+        body = Column(7, List(Row(11,
+                                  List(Item(document.rtbW, {100, 70}, 5),
+                                       Column(7, List(std::move(lists), std::move(buttons)), 4)),
                                   1),
                               std::move(status)));
     }
@@ -155,7 +160,8 @@ void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
 void NewSpellControls::Swap(const Button& one, const Button& other) {
     const auto first = std::find(button_order_.begin(), button_order_.end(), &one);
     const auto second = std::find(button_order_.begin(), button_order_.end(), &other);
-    if (first != button_order_.end() && second != button_order_.end()) std::iter_swap(first, second);
+    if (first != button_order_.end() && second != button_order_.end())
+        std::iter_swap(first, second);
 }
 
 }  // namespace wordhawk

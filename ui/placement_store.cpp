@@ -28,7 +28,9 @@ void WriteNumber(const std::wstring& key, const wchar_t* name, LONG value) {
 
 bool IsSane(const SavedPlacement& placement) {
     const RECT& bounds = placement.bounds;
-    const auto in_range = [](LONG value, LONG low, LONG high) { return value >= low && value <= high; };
+    const auto in_range = [](LONG value, LONG low, LONG high) {
+        return value >= low && value <= high;
+    };
     return in_range(bounds.left, -kLargestSane, kLargestSane) &&
            in_range(bounds.top, -kLargestSane, kLargestSane) &&
            in_range(bounds.right - bounds.left, kSmallestSane, kLargestSane) &&
@@ -47,7 +49,8 @@ std::optional<SavedPlacement> PlacementStore::Load() const {
     const auto width = ReadNumber(key_, L"Width");
     const auto height = ReadNumber(key_, L"Height");
     if (!left || !top || !width || !height) return std::nullopt;
-    if (*width < 0 || *width > kLargestSane || *height < 0 || *height > kLargestSane) return std::nullopt;
+    if (*width < 0 || *width > kLargestSane || *height < 0 || *height > kLargestSane)
+        return std::nullopt;
     SavedPlacement placement;
     placement.bounds = {*left, *top, *left + *width, *top + *height};
     placement.dpi = static_cast<int>(ReadNumber(key_, L"Dpi").value_or(96));

@@ -10,8 +10,8 @@
 namespace wordhawk {
 namespace {
 
-constexpr std::uint64_t kYieldEvery = 30;    // milliseconds
-constexpr std::uint64_t kWaitBefore = 400;   // milliseconds
+constexpr std::uint64_t kYieldEvery = 30;   // milliseconds
+constexpr std::uint64_t kWaitBefore = 400;  // milliseconds
 constexpr int kBarSteps = 1000;
 constexpr int kTextCancel = 115;
 
@@ -95,13 +95,9 @@ ProgressWindow::ProgressWindow(const ProgramState& state, const Theme& theme, HW
                                Appear appear)
     : state_(state), theme_(theme), owner_(owner), appear_(appear) {}
 
-ProgressWindow::~ProgressWindow() {
-    ProgressWindow::Hide();
-}
+ProgressWindow::~ProgressWindow() { ProgressWindow::Hide(); }
 
-HWND ProgressWindow::Handle() const {
-    return box_ ? box_->Handle() : nullptr;
-}
+HWND ProgressWindow::Handle() const { return box_ ? box_->Handle() : nullptr; }
 
 void ProgressWindow::Begin() {
     running_ = true;

@@ -35,7 +35,7 @@ std::string_view GroupWord(std::string_view rtf, std::size_t at) {
 }
 
 bool IsUnwanted(std::string_view word) {
-    constexpr std::array<std::string_view, 6> kUnwanted = {"pict",    "object",  "shppict",
+    constexpr std::array<std::string_view, 6> kUnwanted = {"pict",       "object",  "shppict",
                                                            "nonshppict", "objdata", "datastore"};
     return std::find(kUnwanted.begin(), kUnwanted.end(), word) != kUnwanted.end();
 }

@@ -13,7 +13,8 @@ namespace wordhawk {
 class Subclass {
   public:
     /// An answer keeps the message from the control; none lets it through.
-    using Filter = std::function<std::optional<LRESULT>(UINT message, WPARAM wparam, LPARAM lparam)>;
+    using Filter =
+        std::function<std::optional<LRESULT>(UINT message, WPARAM wparam, LPARAM lparam)>;
     /// Called after the control handled a message.
     using After = std::function<void(UINT message)>;
 

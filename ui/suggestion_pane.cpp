@@ -106,8 +106,8 @@ void SuggestionPane::Select(int index) {
 }
 
 void SuggestionPane::SetCount(int count) {
-    parts_.controls.lblCnt.SetText(captions::SuggestionCount(parts_.dictionaries.State(),
-                                                             static_cast<std::size_t>(count)));
+    parts_.controls.lblCnt.SetText(
+        captions::SuggestionCount(parts_.dictionaries.State(), static_cast<std::size_t>(count)));
 }
 
 void SuggestionPane::ShowCount() {
@@ -235,9 +235,8 @@ std::wstring SuggestionPane::Explanation(int row) const {
     const std::wstring key = std::to_wstring(c.lstSug.Data(row));
     const std::wstring own_key =
         std::to_wstring(GetPhoneticKey(Lower(searched_), parts_.dictionaries.Page()));
-    return Filled(
-        modLoadRes::LoadResText(parts_.dictionaries.State(), text_id::kSuggestionTip),
-        {std::to_wstring(distance), score.substr(0, score.find(L'%')), key, own_key});
+    return Filled(modLoadRes::LoadResText(parts_.dictionaries.State(), text_id::kSuggestionTip),
+                  {std::to_wstring(distance), score.substr(0, score.find(L'%')), key, own_key});
 }
 
 }  // namespace wordhawk

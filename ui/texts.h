@@ -25,9 +25,8 @@ inline constexpr int kTipChange = 1011, kTipChangeAll = 1012, kTipIgnore = 1013,
                      kTipAddCustom = 1017, kTipAddAllCustom = 1018, kTipSuggestions = 1019,
                      kTipSpellCheck = 1020, kTipOptions = 1021, kTipCancel = 1022,
                      kTipCopyData = 1023, kTipOpen = 1024, kTipSaveAs = 1025,
-                     kTipPreferences = 1026, kTipWord = 1027, kTipNotFound = 1028,
-                     kTipScore = 1029, kTipDiversity = 1030, kTipCustomDictionaries = 1031,
-                     kTipUndoAdd = 1032;
+                     kTipPreferences = 1026, kTipWord = 1027, kTipNotFound = 1028, kTipScore = 1029,
+                     kTipDiversity = 1030, kTipCustomDictionaries = 1031, kTipUndoAdd = 1032;
 
 inline constexpr int kSearchBySound = 1041, kSearchByAny = 1042, kSearchByCloseSound = 1043,
                      kCountSwaps = 1044, kCopyList = 1045;

@@ -69,18 +69,17 @@ Theme::Colours DarkColours() {
 
 }  // namespace
 
-Theme::Theme() {
-    Refresh();
-}
+Theme::Theme() { Refresh(); }
 
 bool Theme::Refresh() {
-    const Kind kind =
-        HighContrastIsOn() ? Kind::HighContrast : AppsAreDark() ? Kind::Dark : Kind::Light;
+    const Kind kind = HighContrastIsOn() ? Kind::HighContrast
+                      : AppsAreDark()    ? Kind::Dark
+                                         : Kind::Light;
     const Colours colours = kind == Kind::Dark           ? DarkColours()
                             : kind == Kind::HighContrast ? SystemColours()
                                                          : LightColours();
-    const bool same = background_ && kind == kind_ &&
-                      std::memcmp(&colours, &colours_, sizeof colours) == 0;
+    const bool same =
+        background_ && kind == kind_ && std::memcmp(&colours, &colours_, sizeof colours) == 0;
     if (same) return false;
     kind_ = kind;
     colours_ = colours;

@@ -10,18 +10,18 @@ class Theme {
   public:
     enum class Kind { Light, Dark, HighContrast };
     struct Colours {
-        COLORREF background;       ///< of forms
-        COLORREF text;             ///< on forms
-        COLORREF field;            ///< of lists, boxes and the document
+        COLORREF background;  ///< of forms
+        COLORREF text;        ///< on forms
+        COLORREF field;       ///< of lists, boxes and the document
         COLORREF field_text;
-        COLORREF faint_text;       ///< counts and scores in lists
+        COLORREF faint_text;  ///< counts and scores in lists
         COLORREF disabled_text;
         COLORREF selected;
         COLORREF selected_text;
         COLORREF button;
         COLORREF button_pressed;
         COLORREF border;
-        COLORREF accent;           ///< of the default button and the word under correction
+        COLORREF accent;  ///< of the default button and the word under correction
     };
 
     Theme();

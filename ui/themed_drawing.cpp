@@ -53,7 +53,8 @@ void DrawEntry(const Theme& theme, const DRAWITEMSTRUCT& item, std::wstring_view
         if (!detail.empty()) {
             SIZE size{};
             GetTextExtentPoint32W(device, detail.data(), static_cast<int>(detail.size()), &size);
-            DrawPart(device, detail, area, selected ? front : colours.faint_text, DT_RIGHT | DT_NOPREFIX);
+            DrawPart(device, detail, area, selected ? front : colours.faint_text,
+                     DT_RIGHT | DT_NOPREFIX);
             area.right -= size.cx + margin;
         }
         DrawPart(device, text, area, front, DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);

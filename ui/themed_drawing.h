@@ -1,8 +1,7 @@
 #pragma once
 
-#include "ui/theme.h"
-
 #include "platform/win32/win.h"
+#include "ui/theme.h"
 
 #include <commctrl.h>
 

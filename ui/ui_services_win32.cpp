@@ -8,25 +8,15 @@ namespace {
 UINT Style(MessageIcon icon, MessageButtons buttons) {
     UINT style = 0;
     switch (icon) {
-        case MessageIcon::None:
-            break;
-        case MessageIcon::Information:
-            style = MB_ICONINFORMATION;
-            break;
-        case MessageIcon::Exclamation:
-            style = MB_ICONEXCLAMATION;
-            break;
-        case MessageIcon::Question:
-            style = MB_ICONQUESTION;
-            break;
+        case MessageIcon::None: break;
+        case MessageIcon::Information: style = MB_ICONINFORMATION; break;
+        case MessageIcon::Exclamation: style = MB_ICONEXCLAMATION; break;
+        case MessageIcon::Question: style = MB_ICONQUESTION; break;
     }
     switch (buttons) {
-        case MessageButtons::Ok:
-            return style | MB_OK;
-        case MessageButtons::YesNo:
-            return style | MB_YESNO;
-        case MessageButtons::YesNoDefaultNo:
-            return style | MB_YESNO | MB_DEFBUTTON2;
+        case MessageButtons::Ok: return style | MB_OK;
+        case MessageButtons::YesNo: return style | MB_YESNO;
+        case MessageButtons::YesNoDefaultNo: return style | MB_YESNO | MB_DEFBUTTON2;
     }
     return style;
 }
@@ -44,9 +34,7 @@ Answer UiServicesWin32::ShowMessage(std::wstring_view text, std::wstring_view ti
     return pressed == IDYES ? Answer::Yes : pressed == IDNO ? Answer::No : Answer::Ok;
 }
 
-void UiServicesWin32::Beep() {
-    MessageBeep(MB_OK);
-}
+void UiServicesWin32::Beep() { MessageBeep(MB_OK); }
 
 void UiServicesWin32::SetBusy(bool busy) {
     busy_depth_ += busy ? 1 : -1;

@@ -15,8 +15,8 @@ class UiServicesWin32 : public UiServices {
     void Beep() override;
     void SetBusy(bool busy) override;
 
-    /// The window that boxes belong to; none gives null. It takes no input while a box is open, also
-    /// when another program had the keyboard as the box came up.
+    /// The window that boxes belong to; none gives null. It takes no input while a box is open,
+    /// also when another program had the keyboard as the box came up.
     std::function<HWND()> owner;
 
   private:

@@ -4,8 +4,8 @@
 //   window_bench [MEGABYTES]      1 by default
 
 #include "platform/text.h"
-#include "tests/windows/fake_desktop.h"
 #include "tests/support/temp_dir.h"
+#include "tests/windows/fake_desktop.h"
 #include "ui/frmNewSpell.h"
 
 #include <psapi.h>
@@ -57,7 +57,8 @@ double ProcessorMilliseconds() {
     FILETIME created{}, exited{}, kernel{}, user{};
     GetProcessTimes(GetCurrentProcess(), &created, &exited, &kernel, &user);
     const auto ticks = [](const FILETIME& time) {
-        return static_cast<double>((static_cast<std::uint64_t>(time.dwHighDateTime) << 32) | time.dwLowDateTime);
+        return static_cast<double>((static_cast<std::uint64_t>(time.dwHighDateTime) << 32) |
+                                   time.dwLowDateTime);
     };
     return (ticks(kernel) + ticks(user)) / 1e4;
 }
@@ -71,7 +72,8 @@ Time Measure(const std::function<void()>& work) {
 }
 
 void Report(const std::string& what, const Time& time) {
-    std::printf("%-40s %9.1f ms, of the processor %9.1f ms\n", what.c_str(), time.wall, time.processor);
+    std::printf("%-40s %9.1f ms, of the processor %9.1f ms\n", what.c_str(), time.wall,
+                time.processor);
     std::fflush(stdout);
 }
 
@@ -92,9 +94,11 @@ int Run(std::size_t megabytes) {
     const test::TempDir folder;
     const Path words = folder / L"data";
     const std::string dictionary =
-        "the,84000\r\nquick,81200\r\nbrown,66650\r\nfox,70200\r\nand,65530\r\nlazy,76200\r\ndog,68200\r\n"
+        "the,84000\r\nquick,81200\r\nbrown,66650\r\nfox,70200\r\nand,65530\r\nlazy,76200\r\ndog,"
+        "68200\r\n"
         "see,83000\r\nhouse,72200\r\nreceive,82100\r\n";
-    for (const char* file : {"th_", "qu_", "br_", "fo_", "an_", "la_", "do_", "se_", "ho_", "re_", "zq_"}) {
+    for (const char* file :
+         {"th_", "qu_", "br_", "fo_", "an_", "la_", "do_", "se_", "ho_", "re_", "zq_"}) {
         test::WriteBytes(words / "Dictionarys" / "1033" / (std::string(file) + ".dic"), dictionary);
     }
     test::WriteBytes(words / "Wordhawk.ini", "[Settings]\r\nRemainOpen=1\r\n");
@@ -105,14 +109,18 @@ int Run(std::size_t megabytes) {
     options.install_dictionaries = false;
     Program program(options, fakes.ui);
     SharedMainWindow shared;
-    frmNewSpell form({program, fakes.desktop, shared, PlacementStore(L"Software\\Wordhawk\\Bench")});
+    frmNewSpell form(
+        {program, fakes.desktop, shared, PlacementStore(L"Software\\Wordhawk\\Bench")});
     form.Show();
     Pump();
 
     ReportMemory("with an empty document");
     const std::wstring text = MakeText(megabytes * 1'000'000);
     ReportMemory("before loading");
-    Report("load", Measure([&] { form.document.LoadPlainText({text}); Pump(); }));
+    Report("load", Measure([&] {
+               form.document.LoadPlainText({text});
+               Pump();
+           }));
     ReportMemory("after loading");
     Report("read the text", Measure([&] { form.document.Text(); }));
     Report("check, to the filled list", Measure([&] { form.cmdSpellcheck_Click(); }));
@@ -123,14 +131,23 @@ int Run(std::size_t megabytes) {
     form.lstNID.Select(form.lstNID.FindExact(L"recieve"));
     form.lstNID_Click();
     form.txtChgTo.SetText(L"receive");
-    Report("Change All of a frequent word", Measure([&] { form.cmdChangeAll_Click(); Pump(); }));
+    Report("Change All of a frequent word", Measure([&] {
+               form.cmdChangeAll_Click();
+               Pump();
+           }));
     std::printf("%s\n", ToUtf8(form.lblStatus.Text()).c_str());
-    Report("its Undo", Measure([&] { form.document.Undo(); Pump(); }));
+    Report("its Undo", Measure([&] {
+               form.document.Undo();
+               Pump();
+           }));
     const auto average = [&](const char* what, const std::function<void()>& command) {
         Time total;
         double worst = 0;
         for (int i = 0; i < 20; ++i) {
-            const Time one = Measure([&] { command(); Pump(); });
+            const Time one = Measure([&] {
+                command();
+                Pump();
+            });
             total.wall += one.wall / 20;
             total.processor += one.processor / 20;
             worst = std::max(worst, one.wall);
@@ -139,16 +156,28 @@ int Run(std::size_t megabytes) {
         std::printf("%40s %9.1f ms\n", "worst of 20", worst);
     };
     average("Ignore All", [&] { form.cmdIgnoreAll_Click(); });
-    average("Change", [&] { form.txtChgTo.SetText(L"house"); form.cmdChange_Click(); });
-    average("Change All", [&] { form.txtChgTo.SetText(L"house"); form.cmdChangeAll_Click(); });
+    average("Change", [&] {
+        form.txtChgTo.SetText(L"house");
+        form.cmdChange_Click();
+    });
+    average("Change All", [&] {
+        form.txtChgTo.SetText(L"house");
+        form.cmdChangeAll_Click();
+    });
     average("Add to custom", [&] { form.cmdAdd_Click(1); });
-    average("choose a word of the list", [&] { form.lstNID.Select(form.lstNID.Count() / 2); form.lstNID_Click(); });
+    average("choose a word of the list", [&] {
+        form.lstNID.Select(form.lstNID.Count() / 2);
+        form.lstNID_Click();
+    });
     average("type a character, then Ignore All", [&] {
         form.rtbW.ReplaceSelection(L"x");
         form.cmdIgnoreAll_Click();
     });
 
-    Report("load another text", Measure([&] { form.document.LoadPlainText({L"short"}); Pump(); }));
+    Report("load another text", Measure([&] {
+               form.document.LoadPlainText({L"short"});
+               Pump();
+           }));
 
     ReportMemory("at the end");
     return 0;

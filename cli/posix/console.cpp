@@ -10,9 +10,7 @@ std::vector<std::string> CommandLineArguments(int argc, char** argv) {
     return argc > 1 ? std::vector<std::string>(argv + 1, argv + argc) : std::vector<std::string>();
 }
 
-Path PathFromArgument(const std::string& argument) {
-    return {argument};
-}
+Path PathFromArgument(const std::string& argument) { return {argument}; }
 
 std::FILE* OpenForReading(const Path& path) {
     std::FILE* const file = std::fopen(path.c_str(), "rb");

@@ -5,12 +5,12 @@
 #include "platform/posix/file_descriptor.h"
 #include "platform/text.h"
 
-#include <cerrno>
-#include <system_error>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
 
 namespace wordhawk {
 

@@ -1,11 +1,11 @@
 #include "platform/folders.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <array>
 #include <cstdlib>
 #include <system_error>
-
-#include <pwd.h>
-#include <unistd.h>
 
 namespace wordhawk {
 namespace {

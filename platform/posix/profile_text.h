@@ -15,7 +15,8 @@ namespace wordhawk {
 /// take "#" for a comment and write the file anew from their own map, losing lines and layout.
 class ProfileText {
   public:
-    /// `bytes` are UTF-16 when they start with its mark, else text in `page`; a UTF-8 mark is skipped.
+    /// `bytes` are UTF-16 when they start with its mark, else text in `page`; a UTF-8 mark is
+    /// skipped.
     ProfileText(std::string_view bytes, const AnsiCodePage& page);
 
     /// The value without surrounding blanks; nothing when section, key or "=" is missing.

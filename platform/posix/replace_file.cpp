@@ -3,16 +3,16 @@
 #include "platform/posix/errors.h"
 #include "platform/posix/file_descriptor.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <string>
 #include <system_error>
 #include <utility>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace wordhawk {
 namespace {

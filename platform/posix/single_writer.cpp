@@ -3,10 +3,10 @@
 #include "platform/posix/errors.h"
 #include "platform/posix/file_descriptor.h"
 
-#include <cerrno>
-
 #include <fcntl.h>
 #include <sys/file.h>
+
+#include <cerrno>
 
 namespace wordhawk {
 

@@ -18,8 +18,8 @@ class OpenedClipboard {
     enum class For { Reading, Writing };
     explicit OpenedClipboard(For use) {
         if (use == For::Writing) {
-            owner_ = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
-                                     nullptr);
+            owner_ = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                     nullptr, nullptr);
         }
         // Another program may have it open for a moment.
         for (int tries = 0; tries < 20 && !open_; ++tries) {

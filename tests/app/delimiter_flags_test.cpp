@@ -1,4 +1,5 @@
 #include "app/delimiter_flags.h"
+
 #include "platform/modSect.h"
 #include "tests/support/temp_dir.h"
 

@@ -1,4 +1,5 @@
 #include "app/modValidations.h"
+
 #include "platform/text.h"
 #include "tests/support/temp_dir.h"
 

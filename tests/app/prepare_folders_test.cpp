@@ -1,4 +1,5 @@
 #include "app/prepare_folders.h"
+
 #include "platform/folders.h"
 #include "platform/locale_ids.h"
 #include "tests/support/temp_dir.h"

@@ -11,9 +11,7 @@ namespace {
 
 using test::Random;
 
-const AnsiCodePage& Latin() {
-    return AnsiCodePage::Get(1252);
-}
+const AnsiCodePage& Latin() { return AnsiCodePage::Get(1252); }
 
 std::vector<std::wstring> BlocksOf(const Path& file) {
     std::vector<std::wstring> blocks;

@@ -14,9 +14,7 @@ using test::FakeProgress;
 using test::ReadBytes;
 using test::WriteBytes;
 
-Path CustomFile(const Dictionaries& data) {
-    return data.state.CustomFolder() / "CUSTOM.DIC";
-}
+Path CustomFile(const Dictionaries& data) { return data.state.CustomFolder() / "CUSTOM.DIC"; }
 
 std::map<std::wstring, std::string> AllFiles(const Dictionaries& data) {
     std::map<std::wstring, std::string> files;

@@ -9,9 +9,7 @@ namespace {
 using dictionary_edit::SortMoment;
 using test::Random;
 
-const AnsiCodePage& Page() {
-    return AnsiCodePage::Get(1252);
-}
+const AnsiCodePage& Page() { return AnsiCodePage::Get(1252); }
 
 std::vector<std::string> LinesOf(const std::string& bytes) {
     std::vector<std::string> lines;

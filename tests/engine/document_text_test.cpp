@@ -10,9 +10,7 @@ namespace {
 using namespace std::string_literals;
 using namespace std::string_view_literals;
 
-const AnsiCodePage& Latin() {
-    return AnsiCodePage::Get(1252);
-}
+const AnsiCodePage& Latin() { return AnsiCodePage::Get(1252); }
 
 TEST(DocumentText, FindsTheEncodingAndDecodes) {
     const struct {

@@ -308,12 +308,8 @@ TEST_F(SpellSessionTest, WalksAsSearchingTheWholeTextForEachWordWould) {
                 plain.text.insert(range.start, by);
             }
             switch (number(6)) {
-                case 0:
-                    session_.Ignore(), plain.Ignore();
-                    break;
-                case 1:
-                    session_.IgnoreAll(), plain.IgnoreAll();
-                    break;
+                case 0: session_.Ignore(), plain.Ignore(); break;
+                case 1: session_.IgnoreAll(), plain.IgnoreAll(); break;
                 case 2:
                     session_.ChangeAll(by),
                         Trim(plain.current).empty() ? void() : plain.ChangeAll(by);

@@ -42,20 +42,11 @@ void Mutate(Random& random, std::string& bytes) {
             if (at < bytes.size())
                 bytes[at] = static_cast<char>(bytes[at] ^ (1 << random.Below(8)));
             break;
-        case 1:
-            bytes.insert(at, RandomBytes(random, 6));
-            break;
-        case 2:
-            bytes.erase(at, length);
-            break;
-        case 3:
-            bytes.insert(random.Below(bytes.size() + 1), bytes.substr(at, length));
-            break;
-        case 4:
-            bytes.resize(at);
-            break;
-        default:
-            bytes.replace(at, length, RandomBytes(random, 10));
+        case 1: bytes.insert(at, RandomBytes(random, 6)); break;
+        case 2: bytes.erase(at, length); break;
+        case 3: bytes.insert(random.Below(bytes.size() + 1), bytes.substr(at, length)); break;
+        case 4: bytes.resize(at); break;
+        default: bytes.replace(at, length, RandomBytes(random, 10));
     }
 }
 

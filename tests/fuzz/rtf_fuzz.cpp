@@ -43,19 +43,13 @@ void AppendPieces(Random& random, Document& document, int depth) {
                 document.rtf += "\\uc2\\u-10179\\'3f?\\u-8704 ab\\uc1 ";
                 document.text += L"\xD83D\xDE00";
                 break;
-            case 4:
-                document.rtf += "{\\*\\" + ascii + "zz {" + ascii + "}}";
-                break;
-            case 5:
-                document.rtf += "{\\pict\\bin3 }}}}";
-                break;
+            case 4: document.rtf += "{\\*\\" + ascii + "zz {" + ascii + "}}"; break;
+            case 5: document.rtf += "{\\pict\\bin3 }}}}"; break;
             case 6:
                 document.rtf += "\\{\\}\\\\";
                 document.text += L"{}\\";
                 break;
-            case 7:
-                document.rtf += "{\\v " + ascii + "}\r\n";
-                break;
+            case 7: document.rtf += "{\\v " + ascii + "}\r\n"; break;
             case 8:
                 document.rtf += "\\b0\\fs24\\tab ";
                 document.text += L'\t';
@@ -116,18 +110,12 @@ TEST(RtfFuzz, BearsBrokenDocuments) {
         for (std::size_t changes = 1 + random.Below(6); changes > 0; --changes) {
             const std::size_t at = random.Below(rtf.size() + 1);
             switch (random.Below(4)) {
-                case 0:
-                    rtf.insert(at, random.Pick(pieces));
-                    break;
-                case 1:
-                    rtf.erase(at, random.Below(20));
-                    break;
+                case 0: rtf.insert(at, random.Pick(pieces)); break;
+                case 1: rtf.erase(at, random.Below(20)); break;
                 case 2:
                     rtf.insert(at, rtf.substr(random.Below(rtf.size() + 1), random.Below(40)));
                     break;
-                default:
-                    rtf.resize(at);
-                    break;
+                default: rtf.resize(at); break;
             }
         }
         // Every unit of text takes a byte of the document at least.

@@ -1,4 +1,5 @@
 #include "lang/apply_language.h"
+
 #include "tests/support/temp_dir.h"
 
 #include <gtest/gtest.h>

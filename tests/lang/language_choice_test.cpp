@@ -3,8 +3,8 @@
 #include "lang/modLoadRes.h"
 #include "lang/modRcLangs.h"
 #include "platform/modSect.h"
-#include "tests/support/temp_dir.h"
 #include "tests/support/fake_services.h"
+#include "tests/support/temp_dir.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,5 @@
 #include "platform/files.h"
+
 #include "tests/support/temp_dir.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,5 @@
 #include "platform/replace_file.h"
+
 #include "tests/support/temp_dir.h"
 
 #include <gtest/gtest.h>

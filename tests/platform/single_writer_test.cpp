@@ -1,4 +1,5 @@
 #include "platform/single_writer.h"
+
 #include "tests/support/temp_dir.h"
 
 #include <gtest/gtest.h>

@@ -44,7 +44,8 @@ TEST(Text, AnyBytesBecomeTextThatStaysTheSame) {
     std::mt19937 random(7);
     for (int round = 0; round < 2000; ++round) {
         std::string bytes(random() % 12, ' ');
-        for (char& byte : bytes) byte = static_cast<char>(random() % 4 ? 0x80 + random() % 0x80 : random() % 128);
+        for (char& byte : bytes)
+            byte = static_cast<char>(random() % 4 ? 0x80 + random() % 0x80 : random() % 128);
         const std::wstring text = FromUtf8(bytes);
         EXPECT_EQ(FromUtf8(ToUtf8(text)), text);
         EXPECT_EQ(IsUtf8(bytes), ToUtf8(text) == bytes);
@@ -71,7 +72,8 @@ TEST(Text, CaseIsMappedOneToOne) {
         EXPECT_EQ(LowerChar(pair.upper), pair.lower);
     }
     // Micro sign, dotless i, long s, f with hook, sharp s, and a surrogate have no upper form.
-    for (const wchar_t c : {L'\x00B5', L'\x0131', L'\x017F', L'\x0192', L'\x00DF', wchar_t{0xD83D}, L'1'}) {
+    for (const wchar_t c :
+         {L'\x00B5', L'\x0131', L'\x017F', L'\x0192', L'\x00DF', wchar_t{0xD83D}, L'1'}) {
         EXPECT_EQ(UpperChar(c), c) << int(c);
     }
     EXPECT_EQ(LowerChar(L'\x0130'), L'\x0130') << "capital I with dot has no lower form";
@@ -91,11 +93,15 @@ TEST(Text, NumbersOrZero) {
     const struct {
         const wchar_t* text;
         std::int32_t number;
-    } cases[] = {{L"80", 80},   {L" 7 ", 7},  {L"-1", -1},     {L"+5", 5},          {L"007", 7},
-                 {L"", 0},      {L"x", 0},    {L"1x", 0},      {L"1.5", 0},         {L"1 2", 0},
-                 {L"-", 0},     {L"--1", 0},  {L"\x0661", 0},  {L"2147483647", 2147483647},
-                 {L"2147483648", 0},          {L"-2147483648", -2147483647 - 1},
-                 {L"-2147483649", 0},         {L"18446744073709551617", 0}};
+    } cases[] = {{L"80", 80},         {L" 7 ", 7},
+                 {L"-1", -1},         {L"+5", 5},
+                 {L"007", 7},         {L"", 0},
+                 {L"x", 0},           {L"1x", 0},
+                 {L"1.5", 0},         {L"1 2", 0},
+                 {L"-", 0},           {L"--1", 0},
+                 {L"\x0661", 0},      {L"2147483647", 2147483647},
+                 {L"2147483648", 0},  {L"-2147483648", -2147483647 - 1},
+                 {L"-2147483649", 0}, {L"18446744073709551617", 0}};
     for (const auto& row : cases) EXPECT_EQ(NumberOrZero(row.text), row.number) << ToUtf8(row.text);
 }
 
@@ -114,9 +120,10 @@ TEST(AnsiCodePages, KnownBytes) {
         int page;
         unsigned char byte;
         wchar_t character;
-    } cases[] = {{1252, 0x80, 0x20AC}, {1252, 0x81, 0x0081}, {1252, 0x9F, 0x0178}, {1252, 0xF8, 0x00F8},
-                 {1250, 0xA3, 0x0141}, {1250, 0x9F, 0x017A}, {1251, 0xE0, 0x0430}, {1253, 0xD2, 0x00D2},
-                 {1254, 0xFD, 0x0131}, {1255, 0xE0, 0x05D0}, {1257, 0xA1, 0x00A1}, {874, 0xDB, 0x00DB},
+    } cases[] = {{1252, 0x80, 0x20AC}, {1252, 0x81, 0x0081}, {1252, 0x9F, 0x0178},
+                 {1252, 0xF8, 0x00F8}, {1250, 0xA3, 0x0141}, {1250, 0x9F, 0x017A},
+                 {1251, 0xE0, 0x0430}, {1253, 0xD2, 0x00D2}, {1254, 0xFD, 0x0131},
+                 {1255, 0xE0, 0x05D0}, {1257, 0xA1, 0x00A1}, {874, 0xDB, 0x00DB},
                  {874, 0xA1, 0x0E01},  {1258, 0xEC, 0x0301}};
     for (const auto& row : cases) {
         EXPECT_EQ(AnsiCodePage::Get(row.page).ToUnicode(row.byte), row.character)

@@ -27,7 +27,8 @@ TEST(SystemClipboardTest, AnsiTextOfOtherProgramsIsRead) {
     ASSERT_TRUE(OpenClipboard(nullptr));
     EmptyClipboard();
     CloseClipboard();
-    const HWND owner = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    const HWND owner =
+        CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     ASSERT_TRUE(OpenClipboard(owner));
     EmptyClipboard();
     const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, 5);
@@ -42,7 +43,8 @@ TEST(SystemClipboardTest, AnsiTextOfOtherProgramsIsRead) {
 }
 
 TEST(SystemClipboardTest, ClipboardInOtherHandsIsAnError) {
-    const HWND other = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    const HWND other =
+        CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     ASSERT_TRUE(OpenClipboard(other));
     SystemClipboard clipboard;
     EXPECT_FALSE(clipboard.SetPlainText(L"text"));

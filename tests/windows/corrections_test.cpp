@@ -137,7 +137,8 @@ TEST_F(Corrections, AddToCustomSaysWhereAndCanBeTakenBack) {
 
 TEST_F(Corrections, PopUpOfCustAddsToTheChosenDictionary) {
     modSect::WriteSetting(L"Dictionarys", L"0", L"CUSTOM.DIC", folder_ / L"data" / "Wordhawk.ini");
-    modSect::WriteSetting(L"Dictionarys", L"1", L"Names & more.DIC", folder_ / L"data" / "Wordhawk.ini");
+    modSect::WriteSetting(L"Dictionarys", L"1", L"Names & more.DIC",
+                          folder_ / L"data" / "Wordhawk.ini");
     OpenWith(L"teh dgo");
     fakes_.menus.choose = 1;
     RightClick(Controls().cmdAdd[1]);
@@ -158,6 +159,7 @@ TEST_F(Corrections, AddAllAddsEveryWordAndFinishes) {
 }
 
 TEST_F(Corrections, FinishClearsEverythingAnnouncesAndClosesOnTheNextTick) {
+    Setting(L"RemainOpen", L"0");
     OpenWith(L"teh");
     Click(Controls().cmdIgnoreAll);
     EXPECT_THAT(Listed(), IsEmpty());
@@ -166,8 +168,9 @@ TEST_F(Corrections, FinishClearsEverythingAnnouncesAndClosesOnTheNextTick) {
     EXPECT_EQ(Controls().txtChgTo.Text(), L"");
     EXPECT_EQ(Controls().lblNIL.Text(), L"0 - Not Found");
     EXPECT_EQ(Controls().lblCnt.Text(), L"0 - Sugg&estions:");
-    for (Button* button : {&Controls().cmdChange, &Controls().cmdChangeAll, &Controls().cmdIgnore,
-                           &Controls().cmdIgnoreAll, &Controls().cmdAdd[0], &Controls().cmdAddAll[1]}) {
+    for (Button* button :
+         {&Controls().cmdChange, &Controls().cmdChangeAll, &Controls().cmdIgnore,
+          &Controls().cmdIgnoreAll, &Controls().cmdAdd[0], &Controls().cmdAddAll[1]}) {
         EXPECT_FALSE(button->Enabled()) << button->Id();
     }
     ASSERT_EQ(fakes_.ui.shown.size(), 1u);
@@ -175,13 +178,11 @@ TEST_F(Corrections, FinishClearsEverythingAnnouncesAndClosesOnTheNextTick) {
     EXPECT_EQ(fakes_.ui.shown[0].title, L"Spell check complete");
     EXPECT_TRUE(IsOpen());
     EXPECT_TRUE(Form().CloseIsPending());
-    Pump(300);
-    EXPECT_FALSE(IsOpen());
+    EXPECT_TRUE(ClosesItself());
 }
 
 TEST_F(Corrections, FinishPlaysTheSoundAndStaysOpenWhenTheSettingsSaySo) {
     Setting(L"Confirmation", L"C:\\done.wav");
-    Setting(L"RemainOpen", L"1");
     OpenWith(L"teh");
     Click(Controls().cmdIgnoreAll);
     EXPECT_THAT(fakes_.sound.played, ElementsAre(L"C:\\done.wav"));
@@ -203,7 +204,8 @@ TEST_F(Corrections, FinishPutsTheTextOnTheClipboardAsWanted) {
         Click(Controls().cmdChangeAll);
         EXPECT_EQ(fakes_.clipboard.plain, L"the dog");
         EXPECT_EQ(fakes_.clipboard.rich.has_value(), row.rich);
-        EXPECT_EQ(fakes_.clipboard.rich.value_or("").find("the dog") != std::string::npos, row.rich);
+        EXPECT_EQ(fakes_.clipboard.rich.value_or("").find("the dog") != std::string::npos,
+                  row.rich);
     }
 }
 
@@ -235,7 +237,8 @@ TEST_F(Corrections, CopyDataTakesTheDocumentElseTheBox) {
 TEST_F(Corrections, ClickOnTheWordTakesTheSelectionCleaned) {
     OpenWith(L"'Teh' dog");
     Controls().document.Select({0, 5});
-    SendMessageW(Controls().pic1.Handle(), WM_COMMAND, MAKEWPARAM(Controls().lblNID.Id(), STN_CLICKED),
+    SendMessageW(Controls().pic1.Handle(), WM_COMMAND,
+                 MAKEWPARAM(Controls().lblNID.Id(), STN_CLICKED),
                  reinterpret_cast<LPARAM>(Controls().lblNID.Handle()));
     EXPECT_EQ(Controls().txtChgTo.Text(), L"Teh");
 }

@@ -31,18 +31,15 @@ TEST_F(DocumentPaneTest, KeptTextEqualsTheControlsThroughRandomEditsAndUndos) {
                 break;
             case 2: {
                 std::vector<std::size_t> starts;
-                for (std::size_t at = 0; (at = before.find(L"cat", at)) != std::wstring::npos; at += 3) {
+                for (std::size_t at = 0; (at = before.find(L"cat", at)) != std::wstring::npos;
+                     at += 3) {
                     starts.push_back(at);
                 }
                 pane.ReplaceAll(starts, 3, Below(2) == 0 ? L"dogs" : L"catca");
                 break;
             }
-            case 3:
-                pane.Undo();
-                break;
-            default:
-                pane.rtbW.Undo();
-                break;
+            case 3: pane.Undo(); break;
+            default: pane.rtbW.Undo(); break;
         }
         ASSERT_EQ(pane.Text(), pane.rtbW.PlainText()) << "step " << step;
     }
@@ -62,14 +59,16 @@ TEST_F(DocumentPaneTest, EachChangeHasItsOwnRevision) {
     EXPECT_NE(pane.Revision(), typed);
 }
 
-// A person who undoes a Change All expects one step even when more was changed and taken back since.
+// A person who undoes a Change All expects one step even when more was changed and taken back
+// since.
 TEST_F(DocumentPaneTest, ThreeChangeAllsAreUndoneOneByOne) {
     Open();
     DocumentPane& pane = Controls().document;
     pane.LoadPlainText({L"aa bb cc aa bb cc"});
     const auto all = [&](std::wstring_view word, std::wstring_view by) {
         std::vector<std::size_t> starts;
-        for (std::size_t at = 0; (at = pane.Text().find(word, at)) != std::wstring::npos; at += word.size()) {
+        for (std::size_t at = 0; (at = pane.Text().find(word, at)) != std::wstring::npos;
+             at += word.size()) {
             starts.push_back(at);
         }
         pane.ReplaceAll(starts, word.size(), by);

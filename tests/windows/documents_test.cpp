@@ -2,6 +2,7 @@
 #include "tests/windows/main_window_fixture.h"
 
 #include <gmock/gmock.h>
+
 #include <shellapi.h>
 #include <shlobj.h>
 
@@ -54,11 +55,11 @@ TEST_F(Documents, SaveBackKeepsEncodingAndLineEnds) {
         {"UTF-8, LF", "teh caf\xC3\xA9\nline\n", "the caf\xC3\xA9\nline\n"},
         {"UTF-8 with mark, CR LF", "\xEF\xBB\xBFteh\r\nline", "\xEF\xBB\xBFthe\r\nline"},
         {"ANSI", "teh caf\xE9\r\n", "the caf\xE9\r\n"},
-        {"UTF-16", std::string("\xFF\xFEt\0e\0h\0\n\0", 10), std::string("\xFF\xFEt\0h\0e\0\n\0", 10)},
+        {"UTF-16", std::string("\xFF\xFEt\0e\0h\0\n\0", 10),
+         std::string("\xFF\xFEt\0h\0e\0\n\0", 10)},
         {"begins like rich text", "{\\rtf1 teh", "{\\rtf1 the"},
     };
     Setting(L"SaveBack", L"1");
-    Setting(L"RemainOpen", L"1");
     for (const Case& row : cases) {
         SCOPED_TRACE(row.reason);
         const Path file = File(L"back.txt", row.before);
@@ -75,13 +76,13 @@ TEST_F(Documents, SaveBackKeepsEncodingAndLineEnds) {
 
 TEST_F(Documents, RichCommandFileIsSavedBackAsRichText) {
     Setting(L"SaveBack", L"1");
+    Setting(L"RemainOpen", L"0");
     const Path file = File(L"back.rtf", kRtf);
     Open(file);
     EXPECT_EQ(DocumentText(), L"teh lazy dog");
     Controls().txtChgTo.SetText(L"the");
     Click(Controls().cmdChange);
-    Pump(300);
-    EXPECT_FALSE(IsOpen());
+    EXPECT_TRUE(ClosesItself());
     const std::string saved = ReadBytes(file);
     EXPECT_THAT(saved, HasSubstr("{\\rtf1"));
     EXPECT_THAT(saved, HasSubstr("the"));
@@ -94,7 +95,7 @@ TEST_F(Documents, WithoutSaveBackTheFileIsLeftAlone) {
     Open(file);
     Controls().txtChgTo.SetText(L"the");
     Click(Controls().cmdChange);
-    Pump(300);
+    Form().Unload();
     EXPECT_EQ(ReadBytes(file), "teh dog");
 }
 
@@ -141,7 +142,8 @@ TEST_F(Documents, FileThatCannotBeTakenIsToldAndChangesNothing) {
         fakes_.ui.shown.clear();
         Open(row.file);
         ASSERT_EQ(fakes_.ui.shown.size(), 1u);
-        EXPECT_NE(fakes_.ui.shown[0].text.find(TextFromPath(row.file.filename())), std::wstring::npos);
+        EXPECT_NE(fakes_.ui.shown[0].text.find(TextFromPath(row.file.filename())),
+                  std::wstring::npos);
         EXPECT_EQ(DocumentText(), L"");
         EXPECT_EQ(Form().Caption(), L"Wordhawk");
     }
@@ -178,7 +180,8 @@ TEST_F(Documents, OpenAsksWithBothFiltersLoadsAndChecks) {
     fakes_.files.choice = FileChoice{File(L"doc.rtf", kRtf)};
     Click(Controls().cmdOpen);
     EXPECT_THAT(fakes_.files.titles, ElementsAre(L"Open"));
-    EXPECT_EQ(fakes_.files.filters, std::wstring(L"Text Files (*.txt)\0*.txt\0RTF Files (*.rtf)\0*.rtf\0", 49));
+    EXPECT_EQ(fakes_.files.filters,
+              std::wstring(L"Text Files (*.txt)\0*.txt\0RTF Files (*.rtf)\0*.rtf\0", 49));
     EXPECT_EQ(DocumentText(), L"teh lazy dog");
     EXPECT_THAT(Listed(), ElementsAre(L"teh"));
 
@@ -204,7 +207,6 @@ TEST_F(Documents, OpenedFileTakesTheCommandFilesPlaceWithoutBeingWrittenOverIt) 
 
 TEST_F(Documents, SaveAsWritesTheChosenKindAndNothingForAnEmptyDocument) {
     Setting(L"OpenSave", L"1");
-    Setting(L"RemainOpen", L"1");
     OpenWith(L"the dog\rand cat");
     fakes_.files.choice = FileChoice{folder_ / L"out.txt", DocumentKind::Plain};
     Click(Controls().cmdSaveAs);
@@ -241,7 +243,8 @@ TEST_F(Documents, DroppedFileIsLoadedAndChecked) {
 
 TEST_F(Documents, PasteLetsRichTextInButNoPictures) {
     Open();
-    fakes_.clipboard.rich = R"({\rtf1 one {\pict\pngblip 89504e47} {\object\objemb{\*\objdata 0105}{\result two}}three\par})";
+    fakes_.clipboard.rich =
+        R"({\rtf1 one {\pict\pngblip 89504e47} {\object\objemb{\*\objdata 0105}{\result two}}three\par})";
     fakes_.clipboard.plain = L"plain";
     SendMessageW(Controls().rtbW.Handle(), WM_PASTE, 0, 0);
     Pump();
@@ -257,7 +260,8 @@ TEST_F(Documents, MenuOfTheDocumentKnowsWhatCanBeDone) {
     RightClick(Controls().rtbW);
     // Undo, separator, Cut, Copy, Paste, Delete, separator, Select All
     ASSERT_EQ(fakes_.menus.enabled.size(), 8u);
-    for (const std::size_t entry : {0u, 2u, 3u, 4u, 5u, 7u}) EXPECT_FALSE(fakes_.menus.enabled[entry]) << entry;
+    for (const std::size_t entry : {0u, 2u, 3u, 4u, 5u, 7u})
+        EXPECT_FALSE(fakes_.menus.enabled[entry]) << entry;
     fakes_.clipboard.plain = L"pasted";
     fakes_.menus.choose = 4;
     RightClick(Controls().rtbW);
@@ -274,7 +278,8 @@ TEST_F(Documents, MenuOfTheDocumentKnowsWhatCanBeDone) {
 }
 
 TEST_F(Documents, NothingIsLostOfATextWithAllKindsOfCharacters) {
-    std::wstring text = L"a\tb  caf\u00E9 \u4E2D\u6587 \U0001F600 e\u0301 \u200F\u05D0\r\r\x2028 end\r";
+    std::wstring text =
+        L"a\tb  caf\u00E9 \u4E2D\u6587 \U0001F600 e\u0301 \u200F\u05D0\r\r\x2028 end\r";
     Open();
     Controls().document.LoadPlainText({text});
     EXPECT_EQ(DocumentText(), text);

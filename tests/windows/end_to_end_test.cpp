@@ -21,9 +21,10 @@ constexpr DWORD kPatience = 30'000;
 
 const std::vector<std::string>& Words() {
     static const std::vector<std::string> words = {
-        "house",  "horse",  "water", "table",  "chair",  "window", "garden", "flower", "mother", "father",
-        "sister", "bridge", "river", "winter", "summer", "spring", "autumn", "yellow", "purple", "orange",
-        "silver", "golden", "paper", "pencil", "school", "market", "doctor", "friend", "animal", "island"};
+        "house",  "horse",  "water",  "table",  "chair",  "window", "garden", "flower",
+        "mother", "father", "sister", "bridge", "river",  "winter", "summer", "spring",
+        "autumn", "yellow", "purple", "orange", "silver", "golden", "paper",  "pencil",
+        "school", "market", "doctor", "friend", "animal", "island"};
     return words;
 }
 
@@ -58,13 +59,22 @@ class EndToEnd : public testing::Test {
         std::wstring line = L"\"" + TextFromPath(program) + L"\" " + arguments;
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
-        ASSERT_TRUE(CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                                   &process_));
+        ASSERT_TRUE(CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                   nullptr, &startup, &process_));
         ASSERT_TRUE(WaitUntil([&] {
             window_ = FindWindowW(frmNewSpell::kClassName, nullptr);
             return window_ != nullptr && IsWindowVisible(window_);
         })) << "no window came up";
         SetForegroundWindow(window_);
+        ASSERT_TRUE(
+            WaitUntil([&] { return GetForegroundWindow() == window_ && Focus() != nullptr; }));
+    }
+    /// The control of the program that gets the keys.
+    HWND Focus() const {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        const DWORD thread = GetWindowThreadProcessId(window_, nullptr);
+        return GetGUIThreadInfo(thread, &info) ? info.hwndFocus : nullptr;
     }
 
     static bool WaitUntil(const std::function<bool()>& done) {
@@ -90,7 +100,9 @@ class EndToEnd : public testing::Test {
             reinterpret_cast<LPARAM>(&search));
         return search.found;
     }
-    int ListCount() const { return static_cast<int>(SendMessageW(Child(main_id::lstNID), LB_GETCOUNT, 0, 0)); }
+    int ListCount() const {
+        return static_cast<int>(SendMessageW(Child(main_id::lstNID), LB_GETCOUNT, 0, 0));
+    }
     std::wstring ChangeTo() const {
         wchar_t text[200]{};
         SendMessageW(Child(main_id::txtChgTo), WM_GETTEXT, 200, reinterpret_cast<LPARAM>(text));
@@ -120,7 +132,8 @@ class EndToEnd : public testing::Test {
     }
     void DismissCompletion() {
         HWND box = nullptr;
-        ASSERT_TRUE(WaitUntil([&] { return (box = FindWindowW(L"#32770", L"Spell check complete")) != nullptr; }));
+        ASSERT_TRUE(WaitUntil(
+            [&] { return (box = FindWindowW(L"#32770", L"Spell check complete")) != nullptr; }));
         EXPECT_FALSE(IsWindowEnabled(window_)) << "keys would change the document behind the box";
         SetForegroundWindow(box);
         ASSERT_TRUE(WaitUntil([&] {
@@ -130,7 +143,8 @@ class EndToEnd : public testing::Test {
         }));
     }
     void ExpectEnd() {
-        ASSERT_EQ(WaitForSingleObject(process_.hProcess, kPatience), WAIT_OBJECT_0) << "the program did not end";
+        ASSERT_EQ(WaitForSingleObject(process_.hProcess, kPatience), WAIT_OBJECT_0)
+            << "the program did not end";
         DWORD code = 1;
         GetExitCodeProcess(process_.hProcess, &code);
         EXPECT_EQ(code, 0u);
@@ -193,6 +207,8 @@ TEST_F(EndToEnd, IgnoringEverythingWithSaveBackLeavesTheBytesAsTheyWere) {
 TEST_F(EndToEnd, F7ChecksATypedTextAndEscapeEnds) {
     Start(L"");
     Type("housee");
+    ASSERT_TRUE(
+        WaitUntil([&] { return SendMessageW(Child(main_id::rtbW), WM_GETTEXTLENGTH, 0, 0) == 6; }));
     Key(VK_F7);
     ASSERT_TRUE(WaitForCount(1));
     EXPECT_TRUE(WaitUntil([&] { return ChangeTo() == L"house"; }));
@@ -201,14 +217,16 @@ TEST_F(EndToEnd, F7ChecksATypedTextAndEscapeEnds) {
 }
 
 TEST_F(EndToEnd, ManifestAsksForWhatTheWindowsNeedAndLeavesTheCodePageAlone) {
-    const HMODULE module =
-        LoadLibraryExW((ProgramFolder() / "Wordhawk.exe").c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    const HMODULE module = LoadLibraryExW((ProgramFolder() / "Wordhawk.exe").c_str(), nullptr,
+                                          LOAD_LIBRARY_AS_DATAFILE);
     ASSERT_NE(module, nullptr);
     const HRSRC resource = FindResourceW(module, CREATEPROCESS_MANIFEST_RESOURCE_ID, RT_MANIFEST);
     ASSERT_NE(resource, nullptr);
-    const std::string manifest(static_cast<const char*>(LockResource(LoadResource(module, resource))),
-                               SizeofResource(module, resource));
-    for (const char* wanted : {"Microsoft.Windows.Common-Controls", "PerMonitorV2", "longPathAware", "asInvoker"}) {
+    const std::string manifest(
+        static_cast<const char*>(LockResource(LoadResource(module, resource))),
+        SizeofResource(module, resource));
+    for (const char* wanted :
+         {"Microsoft.Windows.Common-Controls", "PerMonitorV2", "longPathAware", "asInvoker"}) {
         EXPECT_NE(manifest.find(wanted), std::string::npos) << wanted;
     }
     EXPECT_EQ(manifest.find("activeCodePage"), std::string::npos);

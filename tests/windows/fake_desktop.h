@@ -52,7 +52,8 @@ class FakeFileDialogs : public FileDialogs {
         return choice;
     }
     std::optional<FileChoice> AskSave(HWND, const std::wstring& title,
-                                      const std::wstring& asked_filters, const Path& start) override {
+                                      const std::wstring& asked_filters,
+                                      const Path& start) override {
         titles.push_back(title);
         filters = asked_filters;
         folder = start;

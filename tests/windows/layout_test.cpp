@@ -1,5 +1,6 @@
-#include "ui/controls/Button.h"
 #include "ui/layout.h"
+
+#include "ui/controls/Button.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,8 @@ using namespace layout;
 class LayoutTest : public testing::Test {
   protected:
     LayoutTest() {
-        window_ = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1000, 1000, nullptr, nullptr, nullptr, nullptr);
+        window_ = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1000, 1000, nullptr, nullptr,
+                                  nullptr, nullptr);
     }
     ~LayoutTest() override { DestroyWindow(window_); }
 
@@ -26,7 +28,8 @@ class LayoutTest : public testing::Test {
     static std::string At(const Control& control) {
         const RECT bounds = control.Bounds();
         return std::to_string(bounds.left) + "," + std::to_string(bounds.top) + " " +
-               std::to_string(bounds.right - bounds.left) + "x" + std::to_string(bounds.bottom - bounds.top);
+               std::to_string(bounds.right - bounds.left) + "x" +
+               std::to_string(bounds.bottom - bounds.top);
     }
 
     HWND window_;
@@ -37,7 +40,8 @@ TEST_F(LayoutTest, RoomGoesToThoseThatStretchAndTheRestKeepsItsSize) {
     Button& fixed = Make();
     Button& one = Make();
     Button& two = Make();
-    const NodePtr row = Row(10, List(Item(fixed, {50, 20}), Item(one, {10, 20}, 1), Item(two, {10, 20}, 3)));
+    const NodePtr row =
+        Row(10, List(Item(fixed, {50, 20}), Item(one, {10, 20}, 1), Item(two, {10, 20}, 3)));
     Arrange(*row, {0, 0, 250, 40}, {96, nullptr});
     EXPECT_EQ(At(fixed), "0,0 50x40");
     EXPECT_EQ(At(one), "60,0 50x40");
@@ -47,7 +51,8 @@ TEST_F(LayoutTest, RoomGoesToThoseThatStretchAndTheRestKeepsItsSize) {
 TEST_F(LayoutTest, LengthsGrowWithTheMonitorsDensity) {
     Button& top = Make();
     Button& rest = Make();
-    const NodePtr column = Margin(10, Column(4, List(Item(top, {50, 20}), Item(rest, {50, 20}, 1))));
+    const NodePtr column =
+        Margin(10, Column(4, List(Item(top, {50, 20}), Item(rest, {50, 20}, 1))));
     Arrange(*column, {0, 0, 300, 300}, {144, nullptr});
     EXPECT_EQ(At(top), "15,15 270x30");
     EXPECT_EQ(At(rest), "15,51 270x234");
@@ -58,7 +63,8 @@ TEST_F(LayoutTest, HiddenControlsTakeNeitherRoomNorGap) {
     Button& hidden = Make();
     Button& last = Make();
     hidden.SetVisible(false);
-    const NodePtr column = Column(5, List(Item(first, {50, 20}), Item(hidden, {50, 20}), Item(last, {50, 20})));
+    const NodePtr column =
+        Column(5, List(Item(first, {50, 20}), Item(hidden, {50, 20}), Item(last, {50, 20})));
     Arrange(*column, {0, 0, 50, 100}, {96, nullptr});
     EXPECT_EQ(At(last), "0,25 50x20");
 }

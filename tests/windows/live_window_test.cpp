@@ -38,7 +38,8 @@ TEST_F(LiveWindow, ClosingDuringACheckEndsTheCheckFirst) {
 TEST_F(LiveWindow, SecondCheckDuringACheckIsRefused) {
     Open();
     Controls().document.LoadPlainText({LongText()});
-    PostMessageW(Controls().pic1.Handle(), WM_COMMAND, MAKEWPARAM(Controls().cmdSpellcheck.Id(), BN_CLICKED),
+    PostMessageW(Controls().pic1.Handle(), WM_COMMAND,
+                 MAKEWPARAM(Controls().cmdSpellcheck.Id(), BN_CLICKED),
                  reinterpret_cast<LPARAM>(Controls().cmdSpellcheck.Handle()));
     Form().cmdSpellcheck_Click();
     EXPECT_TRUE(IsOpen());
@@ -48,7 +49,8 @@ TEST_F(LiveWindow, SecondCheckDuringACheckIsRefused) {
 TEST_F(LiveWindow, ClosingDuringAnAddAllEndsItFirst) {
     std::wstring text;
     for (int i = 0; i < 26 * 26; ++i) {
-        text += {static_cast<wchar_t>(L'a' + i % 26), static_cast<wchar_t>(L'a' + i / 26), L'q', L'z', L' '};
+        text += {static_cast<wchar_t>(L'a' + i % 26), static_cast<wchar_t>(L'a' + i / 26), L'q',
+                 L'z', L' '};
     }
     Flag(254, 0);
     OpenWith(text);
@@ -111,7 +113,8 @@ TEST_F(LiveWindow, ScreenReadersAreToldOfTheNextWord) {
     Click(Controls().cmdIgnoreAll);
     Pump(100);
     ASSERT_EQ(Controls().lstNID.Selected(), 0);
-    EXPECT_THAT(FocusEvents::Heard(), testing::Contains(std::pair{Controls().lstNID.Handle(), LONG{1}}));
+    EXPECT_THAT(FocusEvents::Heard(),
+                testing::Contains(std::pair{Controls().lstNID.Handle(), LONG{1}}));
 }
 
 class DarkWindow : public LiveWindow {
@@ -119,12 +122,14 @@ class DarkWindow : public LiveWindow {
     DarkWindow() { Set(0); }
     ~DarkWindow() override { Set(1); }
     static void Set(DWORD light) {
-        RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+        RegSetKeyValueW(HKEY_CURRENT_USER,
+                        L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
                         L"AppsUseLightTheme", REG_DWORD, &light, sizeof light);
     }
     /// The document's background, which asking for changes.
     COLORREF Background() {
-        return static_cast<COLORREF>(SendMessageW(Controls().rtbW.Handle(), EM_SETBKGNDCOLOR, 0, 0));
+        return static_cast<COLORREF>(
+            SendMessageW(Controls().rtbW.Handle(), EM_SETBKGNDCOLOR, 0, 0));
     }
 };
 
@@ -139,7 +144,8 @@ TEST_F(DarkWindow, DocumentIsDarkUnlessItHasColoursOfItsOwn) {
 TEST_F(DarkWindow, ColoursOfTheScreenDoNotGetIntoASavedFile) {
     OpenWith(L"the dog");
     const COLORREF text = Theme().Use().field_text;
-    const std::string entry = "\\red" + std::to_string(GetRValue(text)) + "\\green" + std::to_string(GetGValue(text));
+    const std::string entry =
+        "\\red" + std::to_string(GetRValue(text)) + "\\green" + std::to_string(GetGValue(text));
     EXPECT_NE(Controls().rtbW.Rtf().find(entry), std::string::npos);
     EXPECT_EQ(Controls().document.RichText().find(entry), std::string::npos);
 }
@@ -147,7 +153,8 @@ TEST_F(DarkWindow, ColoursOfTheScreenDoNotGetIntoASavedFile) {
 TEST_F(DarkWindow, WindowFollowsWhenTheSystemChanges) {
     OpenWith(L"the dog");
     Set(1);
-    SendMessageW(Form().Handle(), WM_SETTINGCHANGE, 0, reinterpret_cast<LPARAM>(L"ImmersiveColorSet"));
+    SendMessageW(Form().Handle(), WM_SETTINGCHANGE, 0,
+                 reinterpret_cast<LPARAM>(L"ImmersiveColorSet"));
     EXPECT_EQ(Background(), GetSysColor(COLOR_WINDOW));
     EXPECT_EQ(DocumentText(), L"the dog");
 }

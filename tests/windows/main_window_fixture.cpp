@@ -3,7 +3,6 @@
 #include "dict/build.h"
 #include "platform/modSect.h"
 
-
 #include <commctrl.h>
 
 namespace wordhawk::test {
@@ -12,7 +11,8 @@ namespace {
 /// Enough English for the sentences of these tests.
 constexpr std::string_view kWords =
     "the\nthere\nthese\nthem\ntea\nten\ntech\na\nan\nand\ncat\ncats\ncan\ncar\ndog\ndogs\nquick\n"
-    "brown\nfox\njumps\njumped\nover\nlazy\nreceive\nreceived\nseparate\nword\nwords\nhouse\nhorse\n"
+    "brown\nfox\njumps\njumped\nover\nlazy\nreceive\nreceived\nseparate\nword\nwords\nhouse\nhorse"
+    "\n"
     "is\nin\nit\nof\non\none\ntwo\nthree\nhello\nhelp\nhelm\nworld\nanother\nline\nstory\nend\n"
     "definitely\nthis\nthat\nwith\ntext\n";
 
@@ -43,6 +43,8 @@ MainWindowTest::MainWindowTest() {
     MakeFolder(data);
     const Path lists[] = {list};
     EXPECT_TRUE(BuildDictionary(lists, data, {}));
+    // Else a test that goes on after the last word would race with the closing timer.
+    Setting(L"RemainOpen", L"1");
     RegDeleteTreeW(HKEY_CURRENT_USER, kPlacementKey.c_str());
 }
 
@@ -100,6 +102,12 @@ void MainWindowTest::Pump(unsigned milliseconds) {
     } while (GetTickCount64() < end);
 }
 
+bool MainWindowTest::ClosesItself() {
+    const ULONGLONG end = GetTickCount64() + 10'000;
+    while (IsOpen() && GetTickCount64() < end) Pump(10);
+    return !IsOpen();
+}
+
 void MainWindowTest::Click(Button& button) {
     EXPECT_TRUE(button.Enabled() && button.Visible()) << "button " << button.Id();
     button.Click();
@@ -107,9 +115,10 @@ void MainWindowTest::Click(Button& button) {
 }
 
 void MainWindowTest::Press(UINT key, With with) {
-    std::optional<HeldKey> held;
-    if (with == With::Alt) held.emplace(VK_MENU);
-    if (with == With::Control) held.emplace(VK_CONTROL);
+    std::optional<HeldKey> alt_key;
+    std::optional<HeldKey> control_key;
+    if (with == With::Alt || with == With::AltGr) alt_key.emplace(VK_MENU);
+    if (with == With::Control || with == With::AltGr) control_key.emplace(VK_CONTROL);
     const bool alt = with == With::Alt;
     const LPARAM context = alt ? LPARAM{1} << 29 : 0;
     HWND focus = GetFocus();

@@ -13,7 +13,8 @@
 
 namespace wordhawk::test {
 
-/// The real main window on a real data folder with a small dictionary, driven by messages.
+/// The real main window on a real data folder with a small dictionary, driven by messages. It stays
+/// open after the last word unless a test sets RemainOpen to 0.
 class MainWindowTest : public testing::Test {
   protected:
     MainWindowTest();
@@ -32,10 +33,12 @@ class MainWindowTest : public testing::Test {
 
     /// Lets waiting messages through, also those that keep arriving for `milliseconds`.
     void Pump(unsigned milliseconds = 0);
+    /// Lets messages through until the window is gone. False when it stays for ten seconds.
+    bool ClosesItself();
     /// The button must be there and enabled.
     void Click(Button& button);
-    /// A key for the control that has the focus, with Alt or Ctrl held down.
-    enum class With { Nothing, Alt, Control };
+    /// A key for the control that has the focus, with other keys held down; AltGr is Ctrl and Alt.
+    enum class With { Nothing, Alt, Control, AltGr };
     void Press(UINT key, With with = With::Nothing);
     /// A click on an entry of a list.
     void ChooseIn(ListBox& list, int index);

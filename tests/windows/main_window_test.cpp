@@ -48,16 +48,26 @@ TEST_F(MainWindow, CaptionsAreComposedOfTheTextsAtLoad) {
         const wchar_t* caption;
     };
     const Case cases[] = {
-        {c.lblDum[0], L"Not in Dictionary"}, {c.lblDum[1], L"Search/Change &to"},
-        {c.lblDum[2], L"Score %"},           {c.lblCD, L"Custom Dictionarys"},
-        {c.lblNIL, L"0 - Not Found"},        {c.lblCnt, L"0 - Sugg&estions"},
-        {c.cmdPreferences, L"&Preferences"}, {c.cmdChange, L"&Change"},
-        {c.cmdChangeAll, L"Change A&ll"},    {c.cmdIgnore, L"&Ignore"},
-        {c.cmdIgnoreAll, L"I&gnore All"},    {c.cmdSuggestions, L"&Suggestions"},
-        {c.cmdOpen, L"Open"},                {c.cmdSaveAs, L"Save As"},
-        {c.cmdOptions, L"&Options"},         {c.cmdAdd[0], L"&Add"},
-        {c.cmdAdd[1], L"C&ust."},            {c.cmdAddAll[0], L"Add All"},
-        {c.cmdCancel, L"Cancel"},            {c.cmdCopyData, L"Copy &Data"},
+        {c.lblDum[0], L"Not in Dictionary"},
+        {c.lblDum[1], L"Search/Change &to"},
+        {c.lblDum[2], L"Score %"},
+        {c.lblCD, L"Custom Dictionarys"},
+        {c.lblNIL, L"0 - Not Found"},
+        {c.lblCnt, L"0 - Sugg&estions"},
+        {c.cmdPreferences, L"&Preferences"},
+        {c.cmdChange, L"&Change"},
+        {c.cmdChangeAll, L"Change A&ll"},
+        {c.cmdIgnore, L"&Ignore"},
+        {c.cmdIgnoreAll, L"I&gnore All"},
+        {c.cmdSuggestions, L"&Suggestions"},
+        {c.cmdOpen, L"Open"},
+        {c.cmdSaveAs, L"Save As"},
+        {c.cmdOptions, L"&Options"},
+        {c.cmdAdd[0], L"&Add"},
+        {c.cmdAdd[1], L"C&ust."},
+        {c.cmdAddAll[0], L"Add All"},
+        {c.cmdCancel, L"Cancel"},
+        {c.cmdCopyData, L"Copy &Data"},
         {c.cmdSpellcheck, L"Spell Chec&k"},
     };
     for (const Case& row : cases) EXPECT_EQ(row.control.Text(), row.caption);
@@ -211,7 +221,6 @@ TEST_F(MainWindow, AccessKeysDoNotClash) {
 }
 
 TEST_F(MainWindow, KeysAloneCorrectADocument) {
-    Setting(L"RemainOpen", L"1");
     Open();
     Controls().document.LoadPlainText({L"a recieve dgo"});
     Press(VK_F7);
@@ -230,8 +239,29 @@ TEST_F(MainWindow, KeysAloneCorrectADocument) {
     EXPECT_NE(GetFocus(), nullptr);
 }
 
+TEST_F(MainWindow, AccessKeyOfACommandLeavesTheKeyboardWhereItWas) {
+    OpenWith(L"dgo recieve");
+    ASSERT_TRUE(Controls().txtChgTo.HasFocus());
+    constexpr LPARAM kAltHeld = LPARAM{1} << 29;
+    PostMessageW(GetFocus(), WM_SYSCHAR, 'i', kAltHeld | 1);
+    Pump();
+    EXPECT_EQ(Controls().lblNID.Text(), L"recieve");
+    EXPECT_TRUE(Controls().txtChgTo.HasFocus());
+    Press(VK_RETURN);
+    EXPECT_EQ(DocumentText(), L"dgo receive");
+}
+
+TEST_F(MainWindow, LettersWrittenWithAltGrAreNoCommands) {
+    Setting(L"OpenSave", L"1");
+    Open();
+    Press('O', With::AltGr);
+    Press('S', With::AltGr);
+    EXPECT_THAT(fakes_.files.titles, IsEmpty());
+    Press('O', With::Control);
+    EXPECT_THAT(fakes_.files.titles, ElementsAre(L"Open"));
+}
+
 TEST_F(MainWindow, FocusIsNeverLostAfterACommand) {
-    Setting(L"RemainOpen", L"1");
     OpenWith(L"recieve xqzwv");
     Controls().cmdChange.SetFocus();
     Click(Controls().cmdChange);
@@ -278,14 +308,14 @@ TEST_F(MainWindow, ClosingKeepsTheListOfCustomDictionaries) {
 }
 
 TEST_F(MainWindow, StatusLineSaysWhatTheCheckFound) {
-    Setting(L"RemainOpen", L"1");
     Open();
     struct Case {
         const wchar_t* text;
         const wchar_t* status;
     };
-    for (const Case& row : {Case{L"the dog", L"No unknown words."}, Case{L"teh dog", L"1 unknown word."},
-                            Case{L"teh dgo", L"2 unknown words."}}) {
+    for (const Case& row :
+         {Case{L"the dog", L"No unknown words."}, Case{L"teh dog", L"1 unknown word."},
+          Case{L"teh dgo", L"2 unknown words."}}) {
         Check(row.text);
         EXPECT_EQ(Controls().lblStatus.Text(), row.status);
     }

@@ -1,5 +1,6 @@
-#include "lang/built_in_texts.h"
 #include "ui/progress_window.h"
+
+#include "lang/built_in_texts.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +12,8 @@ namespace {
 class ProgressWindowTest : public testing::Test {
   protected:
     ProgressWindowTest() {
-        owner_ = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300,
-                                 nullptr, nullptr, nullptr, nullptr);
+        owner_ = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                 400, 300, nullptr, nullptr, nullptr, nullptr);
     }
     ~ProgressWindowTest() override { DestroyWindow(owner_); }
 
@@ -52,7 +53,8 @@ TEST_F(ProgressWindowTest, ShowsCaptionAndPositionOverItsDisabledOwner) {
 }
 
 TEST_F(ProgressWindowTest, CancelAndCloseAreToldToTheOperation) {
-    for (const auto& [message, wparam] : {std::pair{UINT{WM_COMMAND}, WPARAM{IDCANCEL}}, {UINT{WM_CLOSE}, 0}}) {
+    for (const auto& [message, wparam] :
+         {std::pair{UINT{WM_COMMAND}, WPARAM{IDCANCEL}}, {UINT{WM_CLOSE}, 0}}) {
         ProgressWindow progress(state_, theme_, owner_, ProgressWindow::Appear::AtOnce);
         progress.Show(L"Please Wait");
         PostMessageW(progress.Handle(), message, wparam, 0);

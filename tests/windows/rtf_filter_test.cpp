@@ -17,10 +17,13 @@ TEST(RtfFilter, DropsPicturesAndObjectsAndNothingElse) {
     const Case cases[] = {
         {"no object", "{\\rtf1 a \\b b\\b0\\par}", "{\\rtf1 a \\b b\\b0\\par}"},
         {"picture", "{\\rtf1 a{\\pict\\wmetafile8 0102}b}", "{\\rtf1 ab}"},
-        {"object with its result", "{\\rtf1 a{\\object\\objemb{\\*\\objdata 01}{\\result x}}b}", "{\\rtf1 ab}"},
-        {"ignorable destination", "{\\rtf1 {\\*\\shppict{\\pict 01}}{\\nonshppict{\\pict 02}}a}", "{\\rtf1 a}"},
+        {"object with its result", "{\\rtf1 a{\\object\\objemb{\\*\\objdata 01}{\\result x}}b}",
+         "{\\rtf1 ab}"},
+        {"ignorable destination", "{\\rtf1 {\\*\\shppict{\\pict 01}}{\\nonshppict{\\pict 02}}a}",
+         "{\\rtf1 a}"},
         {"line break before the word", "{\\rtf1 a{\r\n\\pict 01}b}", "{\\rtf1 ab}"},
-        {"raw bytes that look like braces", std::string("{\\rtf1 a{\\pict\\bin4 }}{{}b}"), "{\\rtf1 ab}"},
+        {"raw bytes that look like braces", std::string("{\\rtf1 a{\\pict\\bin4 }}{{}b}"),
+         "{\\rtf1 ab}"},
         {"escaped braces", "{\\rtf1 \\{pict\\} a}", "{\\rtf1 \\{pict\\} a}"},
         {"word that only begins alike", "{\\rtf1{\\picture a}}", "{\\rtf1{\\picture a}}"},
         {"group that turns into a picture", "{\\rtf1{{\\b x}\\pict 0102}y}", "{\\rtf1{{\\b x}}y}"},
@@ -35,7 +38,9 @@ TEST(RtfFilter, DropsPicturesAndObjectsAndNothingElse) {
 
 TEST(RtfFilter, BrokenInputNeitherHangsNorGrows) {
     std::mt19937 random(7);
-    const std::string pieces[] = {"{", "}", "\\", "\\pict", "{\\pict ", "\\pi", "ct", "\\bin3 ", "{\\*\\objdata", "a", "\\'e9", " ", "\n"};
+    const std::string pieces[] = {"{",     "}",  "\\",      "\\pict",        "{\\pict ",
+                                  "\\pi",  "ct", "\\bin3 ", "{\\*\\objdata", "a",
+                                  "\\'e9", " ",  "\n"};
     for (int round = 0; round < 2000; ++round) {
         std::string rtf;
         for (int i = 0; i < 40; ++i) rtf += pieces[random() % std::size(pieces)];

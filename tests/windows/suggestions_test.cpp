@@ -2,8 +2,9 @@
 #include "dict/phonetic_key.h"
 #include "tests/windows/main_window_fixture.h"
 
-#include <commctrl.h>
 #include <gmock/gmock.h>
+
+#include <commctrl.h>
 
 namespace wordhawk::test {
 namespace {
@@ -46,7 +47,6 @@ TEST_F(SuggestionControls, CaseOfTheDocumentsWordIsTakenOver) {
         {"capitals", L"RECIEVE", L"RECEIVE"},
         {"capital first letter", L"Recieve", L"Receive"},
     };
-    Setting(L"RemainOpen", L"1");
     Setting(L"IgnoreUCase", L"0");
     Open();
     for (const Case& row : cases) {
@@ -160,7 +160,8 @@ TEST_F(SuggestionControls, SearchModeIsChosenFromTheMenuAndStoredAtOnce) {
 }
 
 TEST_F(SuggestionControls, RemovingTheOnlySuggestionTakesItOutOfItsDictionary) {
-    WriteBytes(folder_ / L"data" / "Dictionarys" / "Custom" / "CUSTOM.DIC", "aaa,65000\r\n" + EntryLine(L"xqzwvi", AnsiCodePage::Get(1252)));
+    WriteBytes(folder_ / L"data" / "Dictionarys" / "Custom" / "CUSTOM.DIC",
+               "aaa,65000\r\n" + EntryLine(L"xqzwvi", AnsiCodePage::Get(1252)));
     OpenWith(L"xqzwv");
     ASSERT_THAT(Suggested(), ElementsAre(L"xqzwvi"));
     fakes_.menus.choose = 1;
@@ -190,7 +191,8 @@ TEST_F(SuggestionControls, TipTellsWhyASuggestionScoredWhatItDid) {
     EXPECT_NE(tip.find(L"2"), std::wstring::npos) << "distance";
     EXPECT_NE(tip.find(L"86%"), std::wstring::npos) << "score";
     EXPECT_NE(tip.find(std::to_wstring(GetPhoneticKey(L"receive", program_->dictionaries.Page()))),
-              std::wstring::npos) << "sound key";
+              std::wstring::npos)
+        << "sound key";
     EXPECT_EQ(Form().SuggestionTip(1), L"");
 }
 

@@ -2,9 +2,7 @@
 
 namespace wordhawk {
 
-void Button::Create(const Where& where) {
-    Make(where, L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON);
-}
+void Button::Create(const Where& where) { Make(where, L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON); }
 
 void Button::SetDefault(bool is_default) {
     Send(BM_SETSTYLE, is_default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);

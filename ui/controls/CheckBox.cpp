@@ -2,9 +2,7 @@
 
 namespace wordhawk {
 
-void CheckBox::Create(const Where& where) {
-    Make(where, L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX);
-}
+void CheckBox::Create(const Where& where) { Make(where, L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX); }
 
 void OptionButton::Create(const Where& where, Group group) {
     Make(where, L"BUTTON",

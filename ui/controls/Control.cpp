@@ -6,10 +6,10 @@ void Control::Make(const Where& where, const wchar_t* class_name, DWORD style,
                    DWORD extended_style) {
     id_ = where.id;
     tips_ = where.tips;
-    handle_ = CreateWindowExW(extended_style, class_name, L"", WS_CHILD | WS_VISIBLE | style, 0, 0, 0,
-                              0, where.parent,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(where.id)),
-                              GetModuleHandleW(nullptr), nullptr);
+    handle_ =
+        CreateWindowExW(extended_style, class_name, L"", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
+                        where.parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(where.id)),
+                        GetModuleHandleW(nullptr), nullptr);
     if (tips_ != nullptr && !tool_tip_.empty()) tips_->Set(handle_, tool_tip_);
 }
 
@@ -30,22 +30,16 @@ void Control::SetEnabled(bool enabled) {
     if (enabled != Enabled()) EnableWindow(handle_, enabled);
 }
 
-bool Control::Visible() const {
-    return (GetWindowLongPtrW(handle_, GWL_STYLE) & WS_VISIBLE) != 0;
-}
+bool Control::Visible() const { return (GetWindowLongPtrW(handle_, GWL_STYLE) & WS_VISIBLE) != 0; }
 
-void Control::SetVisible(bool visible) {
-    ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE);
-}
+void Control::SetVisible(bool visible) { ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE); }
 
 bool Control::HasFocus() const {
     const HWND focus = GetFocus();
     return focus != nullptr && (focus == handle_ || IsChild(handle_, focus));
 }
 
-void Control::SetFocus() const {
-    ::SetFocus(handle_);
-}
+void Control::SetFocus() const { ::SetFocus(handle_); }
 
 RECT Control::Bounds() const {
     RECT bounds{};

@@ -20,8 +20,8 @@ std::wstring ListBox::Item(int index) const {
 
 int ListBox::Insert(int index, std::wstring_view text, LPARAM data) {
     const std::wstring value(text);
-    const int at = Index(LB_INSERTSTRING, static_cast<WPARAM>(index),
-                         reinterpret_cast<LPARAM>(value.c_str()));
+    const int at =
+        Index(LB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(value.c_str()));
     if (at >= 0 && data != 0) Send(LB_SETITEMDATA, static_cast<WPARAM>(at), data);
     return at;
 }
@@ -49,8 +49,6 @@ std::optional<int> ListBox::At(POINT point) const {
     return LOWORD(found);
 }
 
-void ListBox::SetItemHeight(int pixels) {
-    Send(LB_SETITEMHEIGHT, 0, pixels);
-}
+void ListBox::SetItemHeight(int pixels) { Send(LB_SETITEMHEIGHT, 0, pixels); }
 
 }  // namespace wordhawk

@@ -7,17 +7,14 @@ UINT MenuItem::State() const {
     return state == static_cast<UINT>(-1) ? 0 : state;
 }
 
-bool MenuItem::Enabled() const {
-    return (State() & (MF_DISABLED | MF_GRAYED)) == 0;
-}
+bool MenuItem::Enabled() const { return (State() & (MF_DISABLED | MF_GRAYED)) == 0; }
 
 void MenuItem::SetEnabled(bool enabled) {
-    EnableMenuItem(menu_, static_cast<UINT>(id_), MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+    EnableMenuItem(menu_, static_cast<UINT>(id_),
+                   MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
 }
 
-bool MenuItem::Checked() const {
-    return (State() & MF_CHECKED) != 0;
-}
+bool MenuItem::Checked() const { return (State() & MF_CHECKED) != 0; }
 
 void MenuItem::SetChecked(bool checked) {
     CheckMenuItem(menu_, static_cast<UINT>(id_),
@@ -26,8 +23,8 @@ void MenuItem::SetChecked(bool checked) {
 
 std::wstring MenuItem::Caption() const {
     wchar_t text[512];
-    const int length =
-        GetMenuStringW(menu_, static_cast<UINT>(id_), text, static_cast<int>(std::size(text)), MF_BYCOMMAND);
+    const int length = GetMenuStringW(menu_, static_cast<UINT>(id_), text,
+                                      static_cast<int>(std::size(text)), MF_BYCOMMAND);
     return {text, static_cast<std::size_t>(length)};
 }
 

@@ -92,7 +92,8 @@ std::wstring RichEdit::PlainText() const {
 
 void RichEdit::SetPlainText(std::wstring_view text) {
     // Streamed in, a text that begins like rich text or holds a NUL is still only a text.
-    std::string_view rest(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t));
+    std::string_view rest(reinterpret_cast<const char*>(text.data()),
+                          text.size() * sizeof(wchar_t));
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, ReadSome};
     Send(EM_STREAMIN, SF_TEXT | SF_UNICODE, reinterpret_cast<LPARAM>(&stream));
     ForgetUndo();
@@ -121,11 +122,13 @@ bool RichEdit::SetRtf(std::string_view rtf, Into into) {
 TextRange RichEdit::Selection() const {
     CHARRANGE range{};
     Send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
-    return {static_cast<std::size_t>(range.cpMin), static_cast<std::size_t>(range.cpMax - range.cpMin)};
+    return {static_cast<std::size_t>(range.cpMin),
+            static_cast<std::size_t>(range.cpMax - range.cpMin)};
 }
 
 void RichEdit::Select(TextRange wanted) {
-    CHARRANGE range{static_cast<LONG>(wanted.start), static_cast<LONG>(wanted.start + wanted.length)};
+    CHARRANGE range{static_cast<LONG>(wanted.start),
+                    static_cast<LONG>(wanted.start + wanted.length)};
     Send(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
 }
 

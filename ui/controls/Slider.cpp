@@ -11,12 +11,8 @@ void Slider::Create(const Where& where, int minimum, int maximum) {
     Send(TBM_SETPAGESIZE, 0, (maximum - minimum + 9) / 10);
 }
 
-int Slider::Value() const {
-    return Index(TBM_GETPOS);
-}
+int Slider::Value() const { return Index(TBM_GETPOS); }
 
-void Slider::SetValue(int value) {
-    Send(TBM_SETPOS, TRUE, value);
-}
+void Slider::SetValue(int value) { Send(TBM_SETPOS, TRUE, value); }
 
 }  // namespace wordhawk

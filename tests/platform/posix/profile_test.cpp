@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <cstdlib>
 #include <thread>
-
-#include <sys/stat.h>
 
 namespace wordhawk {
 namespace {

@@ -1,15 +1,16 @@
-#include "platform/modSect.h"
 #include "platform/replace_file.h"
+
+#include "platform/modSect.h"
 #include "tests/support/temp_dir.h"
 
 #include <gtest/gtest.h>
-
-#include <csignal>
 
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <csignal>
 
 namespace wordhawk {
 namespace {

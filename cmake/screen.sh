@@ -1,0 +1,102 @@
+# Read by ./run with ".", after cmake/wine.sh: the window where nobody looks at a screen.
+# The caller gives $log and the functions fail and quietly.
+
+# shoot FILE: a picture of the whole screen.
+shoot() {
+    import -window root "$1"
+}
+
+# How many pixels two pictures differ in.
+difference() {
+    compare -metric AE "$1" "$2" null: 2>&1 || true
+}
+
+# settle FILE: waits until the screen is at rest, but for a blinking caret, and leaves its picture.
+settle() {
+    shoot "$1"
+    same=0
+    tries=0
+    while [ "$same" -lt 3 ] && [ "$tries" -lt 100 ]; do
+        sleep 0.3
+        mv "$1" "$1.before"
+        shoot "$1"
+        tries=$((tries + 1))
+        same=$((same + 1))
+        [ "$(difference "$1.before" "$1")" -lt 100 ] || same=0
+    done
+    rm -f "$1.before"
+}
+
+# wait_for_window NAME: prints the window's number.
+wait_for_window() {
+    tries=0
+    until xdotool search --onlyvisible --name "$1" 2>/dev/null | grep -m 1 .; do
+        tries=$((tries + 1))
+        [ "$tries" -lt 300 ] && kill -0 "$program_id" 2>/dev/null || return 1
+        sleep 0.1
+    done
+}
+
+program_id=
+leave_screen() {
+    [ -z "$program_id" ] || kill "$program_id" 2>/dev/null || true
+    # Wine's own helpers end soon after the last program; the screen goes after them.
+    timeout 10 wineserver -w || true
+    stop_display
+}
+
+# show_correction PROGRAM DOCUMENT FOLDER STATUS: opens the window on a copy of the document, changes
+# the first word that has a suggestion, and prints the path of a picture of the result. The copy, the
+# settings and the picture are in FOLDER. STATUS is 1 when the document has unknown words.
+show_correction() {
+    picture=$3/wordhawk.png
+    copy=$3/$(basename "$2")
+    rm -rf "$3"
+    mkdir -p "$3/data"
+    cp "$2" "$copy"
+    printf '[Settings]\r\nSaveBack=1\r\n' >"$3/data/Wordhawk.ini"
+    WORDHAWK_DATA=$(windows_path "$3/data")
+    export WORDHAWK_DATA
+
+    trap leave_screen EXIT
+    trap 'exit 130' INT TERM
+    quietly "Starting a virtual screen" start_display 1024x768x24
+    quietly "Preparing Wine" prepare_wine
+    echo "== wine $1 $copy" >&2
+    wine "$1" "$(windows_path "$copy")" >"$log" 2>&1 </dev/null &
+    program_id=$!
+    window=$(wait_for_window " - Wordhawk") || fail "The window did not come up (output: $log)"
+    xdotool windowfocus --sync "$window" || true
+    settle "$picture"
+
+    if [ "$4" -eq 1 ]; then
+        presses=0
+        while :; do
+            cp "$picture" "$picture.start"
+            xdotool key Return
+            settle "$picture"
+            changed=$(difference "$picture.start" "$picture")
+            rm -f "$picture.start"
+            presses=$((presses + 1))
+            # Enter does nothing for a word without suggestions; Alt+G ignores all of it.
+            if [ "$changed" -ge 100 ] || [ "$presses" -ge 20 ]; then break; fi
+            xdotool key alt+g
+            settle "$picture"
+        done
+    fi
+
+    # Closing saves the copy.
+    xdotool key Escape
+    tries=0
+    while kill -0 "$program_id" 2>/dev/null; do
+        tries=$((tries + 1))
+        [ "$tries" -lt 100 ] || fail "The window did not close (picture: $picture)"
+        sleep 0.1
+    done
+    program_id=
+    if [ "$4" -eq 1 ]; then
+        ! cmp -s "$2" "$copy" || fail "The correction did not reach $copy (picture: $picture)"
+        echo "== Corrected one word in $copy" >&2
+    fi
+    echo "Picture of the window: $picture"
+}
