@@ -49,7 +49,7 @@ WORD_LIST_PACKAGES="wamerican-large wbritish-large wngerman wfrench hunspell-es 
     wdutch wportuguese wbrazilian wdanish hunspell-sv wpolish"
 # The cross build of the window, and what it runs with here.
 WINDOW_PACKAGES="g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 libwine
-    fonts-wine fonts-roboto-unhinted"
+    fonts-wine fonts-liberation"
 # A virtual screen, its keyboard and its camera.
 SCREEN_PACKAGES="xvfb xdotool imagemagick"
 # More compilers, and what the tests are run with.

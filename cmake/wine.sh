@@ -47,9 +47,8 @@ prepare_wine() {
         set_value "$themes" SizeName REG_SZ NormalSize &&
         # Wine's windows as their own managers: on a bare screen there is no window manager to wait for.
         set_value 'Software\Wine\X11 Driver' Managed REG_SZ N &&
-        # Debian's Wine does not find its own symbols, and has no font like the one of Windows.
+        # Debian's Wine does not find its own symbols.
         ln -sf /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" &&
-        set_value 'Software\Wine\Fonts\Replacements' Tahoma REG_SZ Roboto &&
         touch "$WINEPREFIX/wordhawk-ready"
 }
 

@@ -155,6 +155,7 @@ bool Dialog::PreTranslate(MSG& message) {
     if (handle_ == nullptr) return false;
     if (message.hwnd != handle_ && !IsChild(handle_, message.hwnd)) return false;
     const bool is_key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    OnQueued(message);
     try {
         if (is_key && OnKey(message)) return true;
     } catch (...) {

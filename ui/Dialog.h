@@ -36,6 +36,8 @@ class Dialog : public MessageHandler {
     virtual Look WantedLook() const { return {}; }
     /// Makes the controls. The window has no size yet; the fonts are there.
     virtual void OnInit() = 0;
+    /// A message of the thread's loop for the dialog or one of its controls.
+    virtual void OnQueued(const MSG&) {}
     /// First refusal of a key before the dialog manager sees it.
     virtual bool OnKey(const MSG&) { return false; }
     /// The dialog manager has handled a key's message, which may have moved the keyboard away from

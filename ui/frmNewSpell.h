@@ -118,6 +118,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     Look WantedLook() const override;
     void OnInit() override;
     void OnFontsChanged() override;
+    void OnQueued(const MSG& message) override { tips_.Relay(message); }
     bool OnKey(const MSG& message) override;
     void OnKeyHandled(UINT message, HWND focus_before) override;
     Reply OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;

@@ -1,43 +1,89 @@
 #include "ui/subclass.h"
 
-#include <commctrl.h>
-
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace wordhawk {
 
+struct Subclass::Handlers {
+    Subclass* owner;
+    Filter filter;
+    After after;
+};
+
+/// Whoever looks at a control's messages, oldest first. Never changed: a message on its way keeps
+/// the chain that it began with, whatever its handlers install, remove or destroy.
+struct Subclass::Chain {
+    WNDPROC control_procedure;
+    std::vector<std::shared_ptr<const Handlers>> handlers;
+
+    LRESULT Pass(HWND control, UINT message, WPARAM wparam, LPARAM lparam,
+                 std::size_t first) const {
+        if (first == 0) return CallWindowProcW(control_procedure, control, message, wparam, lparam);
+        const Handlers& next = *handlers[first - 1];
+        if (next.filter) {
+            if (const auto reply = next.filter(message, wparam, lparam)) return *reply;
+        }
+        const LRESULT result = Pass(control, message, wparam, lparam, first - 1);
+        if (next.after) next.after(message);
+        return result;
+    }
+};
+
+/// What the control's user data points to until the control is destroyed. The system's own
+/// SetWindowSubclass looks a property up for every message, which some systems do slowly.
+struct Subclass::Slot {
+    std::shared_ptr<const Chain> chain;
+
+    static Slot* Of(HWND control) {
+        return reinterpret_cast<Slot*>(GetWindowLongPtrW(control, GWLP_USERDATA));
+    }
+};
+
 void Subclass::Install(HWND control, Filter filter, After after) {
     Remove();
-    handlers_ = std::make_shared<const Handlers>(Handlers{std::move(filter), std::move(after)});
-    // The object's address is an id that no other subclass of the control can have.
-    if (SetWindowSubclass(control, Procedure, reinterpret_cast<UINT_PTR>(this),
-                          reinterpret_cast<DWORD_PTR>(this))) {
-        control_ = control;
+    Slot* slot = Slot::Of(control);
+    Chain chain{};
+    if (slot != nullptr) {
+        chain = *slot->chain;
+    } else {
+        chain.control_procedure =
+            reinterpret_cast<WNDPROC>(GetWindowLongPtrW(control, GWLP_WNDPROC));
+        slot = std::make_unique<Slot>().release();
+        SetWindowLongPtrW(control, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(slot));
+        SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
     }
+    handlers_ =
+        std::make_shared<const Handlers>(Handlers{this, std::move(filter), std::move(after)});
+    chain.handlers.push_back(handlers_);
+    slot->chain = std::make_shared<const Chain>(std::move(chain));
+    control_ = control;
 }
 
 void Subclass::Remove() {
     if (control_ == nullptr) return;
-    RemoveWindowSubclass(std::exchange(control_, nullptr), Procedure,
-                         reinterpret_cast<UINT_PTR>(this));
+    Slot& slot = *Slot::Of(std::exchange(control_, nullptr));
+    Chain chain = *slot.chain;
+    std::erase(chain.handlers, handlers_);
+    slot.chain = std::make_shared<const Chain>(std::move(chain));
+    handlers_.reset();
 }
 
-LRESULT CALLBACK Subclass::Procedure(HWND control, UINT message, WPARAM wparam, LPARAM lparam,
-                                     UINT_PTR, DWORD_PTR self_address) noexcept {
-    auto* self = reinterpret_cast<Subclass*>(self_address);
+LRESULT CALLBACK Subclass::Procedure(HWND control, UINT message, WPARAM wparam,
+                                     LPARAM lparam) noexcept {
+    Slot* slot = Slot::Of(control);
+    const std::shared_ptr<const Chain> chain = slot->chain;
+    if (message == WM_NCDESTROY) {
+        for (const auto& handlers : chain->handlers) handlers->owner->control_ = nullptr;
+        SetWindowLongPtrW(control, GWLP_WNDPROC,
+                          reinterpret_cast<LONG_PTR>(chain->control_procedure));
+        SetWindowLongPtrW(control, GWLP_USERDATA, 0);
+        delete slot;
+        return CallWindowProcW(chain->control_procedure, control, message, wparam, lparam);
+    }
     try {
-        if (message == WM_NCDESTROY) {
-            self->Remove();
-            return DefSubclassProc(control, message, wparam, lparam);
-        }
-        // Kept alive here: a filter may end its own subclass, by destroying the control.
-        const std::shared_ptr<const Handlers> handlers = self->handlers_;
-        if (handlers->filter) {
-            if (const auto reply = handlers->filter(message, wparam, lparam)) return *reply;
-        }
-        const LRESULT result = DefSubclassProc(control, message, wparam, lparam);
-        if (handlers->after) handlers->after(message);
-        return result;
+        return chain->Pass(control, message, wparam, lparam, chain->handlers.size());
     } catch (...) {
         return 0;
     }

@@ -9,7 +9,8 @@
 namespace wordhawk {
 
 /// Looks at the messages of a control before the control does, for as long as the object lives or
-/// the control exists.
+/// the control exists. Several may look at the same control: the newest looks first. The control's
+/// user data (GWLP_USERDATA) is taken for it.
 class Subclass {
   public:
     /// An answer keeps the message from the control; none lets it through.
@@ -29,13 +30,12 @@ class Subclass {
     bool Installed() const { return control_ != nullptr; }
 
   private:
-    static LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wparam, LPARAM lparam,
-                                      UINT_PTR id, DWORD_PTR self) noexcept;
+    struct Handlers;
+    struct Chain;
+    struct Slot;
 
-    struct Handlers {
-        Filter filter;
-        After after;
-    };
+    static LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wparam,
+                                      LPARAM lparam) noexcept;
 
     HWND control_ = nullptr;
     std::shared_ptr<const Handlers> handlers_;

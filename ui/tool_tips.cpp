@@ -16,7 +16,7 @@ void ToolTips::Set(HWND control, const std::wstring& text) {
     TTTOOLINFOW tool{};
     // The size without the member that only comctl32 version 6 knows works with every version.
     tool.cbSize = TTTOOLINFOW_V2_SIZE;
-    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.uFlags = TTF_IDISHWND;
     tool.hwnd = form_;
     tool.uId = reinterpret_cast<UINT_PTR>(control);
     const bool known = texts_.contains(control);
@@ -30,6 +30,12 @@ void ToolTips::Set(HWND control, const std::wstring& text) {
     tool.lpszText = kept.data();
     SendMessageW(window_, known ? TTM_UPDATETIPTEXTW : TTM_ADDTOOLW, 0,
                  reinterpret_cast<LPARAM>(&tool));
+}
+
+void ToolTips::Relay(const MSG& message) const {
+    if (message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST) return;
+    MSG copy = message;
+    SendMessageW(window_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&copy));
 }
 
 std::wstring ToolTips::Get(HWND control) const {

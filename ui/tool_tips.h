@@ -14,6 +14,8 @@ class ToolTips {
     void Create(HWND form);
     /// Gives the control a tip, another one, or (empty) none.
     void Set(HWND control, const std::wstring& text);
+    /// Every message of the thread's loop comes through here: the tips follow the mouse by it.
+    void Relay(const MSG& message) const;
     /// The tip of a control as it is now.
     std::wstring Get(HWND control) const;
 

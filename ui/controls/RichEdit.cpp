@@ -45,10 +45,11 @@ void RichEdit::Create(const Where& where) {
     static const HMODULE library = LoadLibraryW(L"msftedit.dll");
     static_cast<void>(library);
     where_ = where;
-    // No drag and drop of objects: files dropped here go to the form, objects nowhere.
+    // No drag and drop of objects: files dropped here go to the form, objects nowhere. The scroll bar
+    // is always there: one that came with a long text would have the whole of it laid out again.
     Make(where, MSFTEDIT_CLASS,
          WS_TABSTOP | WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN |
-             ES_NOOLEDRAGDROP | WS_BORDER);
+             ES_NOOLEDRAGDROP | ES_DISABLENOSCROLL | WS_BORDER);
     SetUp();
 }
 
