@@ -32,13 +32,16 @@ std::string PathForMessage(const Path& path) {
 }
 
 Result<std::string> ReadWholeFile(const Path& path) {
-    if (IsFolder(path)) return tl::unexpected(Error{L"this is a folder, not a file", path});
-    FileHandle file;
-    const DWORD failure = RetryWhileInUse([&] {
-        file = OpenToRead(path);
-        return static_cast<bool>(file);
-    });
-    if (failure != ERROR_SUCCESS) return tl::unexpected(ErrorFromCode(failure, path));
+    // A check opens hundreds of small files, so what is rarely needed is asked only after a failure.
+    FileHandle file = OpenToRead(path);
+    if (!file) {
+        if (IsFolder(path)) return tl::unexpected(Error{L"this is a folder, not a file", path});
+        const DWORD failure = RetryWhileInUse([&] {
+            file = OpenToRead(path);
+            return static_cast<bool>(file);
+        });
+        if (failure != ERROR_SUCCESS) return tl::unexpected(ErrorFromCode(failure, path));
+    }
     // The size is only a first guess: pipes have none and a file may grow meanwhile.
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file.Get(), &size)) size.QuadPart = 0;
@@ -54,8 +57,9 @@ Result<std::string> ReadWholeFile(const Path& path) {
             if (GetLastError() == ERROR_BROKEN_PIPE) break;
             return tl::unexpected(LastError(path));
         }
-        if (got == 0) break;
         used += got;
+        // Less than there was room for is all of a file that has a size.
+        if (got == 0 || (size.QuadPart > 0 && got < wanted)) break;
     }
     bytes.resize(used);
     return bytes;

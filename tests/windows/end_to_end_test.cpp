@@ -130,6 +130,22 @@ class EndToEnd : public testing::Test {
     static void Type(std::string_view letters) {
         for (const char letter : letters) Key(static_cast<WORD>(letter - 'a' + 'A'));
     }
+    /// Gives a file dialog of the program a path, and confirms it with Enter.
+    void AnswerFileDialog(const wchar_t* title, const Path& path) {
+        constexpr int kFileName = 0x47C;  // a combo box
+        HWND dialog = nullptr;
+        ASSERT_TRUE(WaitUntil([&] {
+            dialog = FindWindowW(L"#32770", title);
+            return dialog != nullptr && IsWindowVisible(dialog) &&
+                   GetDlgItem(dialog, kFileName) != nullptr;
+        })) << "no dialog came up";
+        const HWND name = GetDlgItem(dialog, kFileName);
+        SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(TextFromPath(path).c_str()));
+        SetForegroundWindow(dialog);
+        ASSERT_TRUE(WaitUntil([&] { return IsChild(name, Focus()) != FALSE; }));
+        Key(VK_RETURN);
+        ASSERT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
+    }
     void DismissCompletion() {
         HWND box = nullptr;
         ASSERT_TRUE(WaitUntil(
@@ -202,6 +218,30 @@ TEST_F(EndToEnd, IgnoringEverythingWithSaveBackLeavesTheBytesAsTheyWere) {
     DismissCompletion();
     ExpectEnd();
     EXPECT_EQ(ReadBytes(file), text);
+}
+
+TEST_F(EndToEnd, TextIsOpenedCorrectedAndSavedThroughTheSystemsDialogs) {
+    Setting(L"OpenSave", L"1");
+    Setting(L"RemainOpen", L"1");
+    const Path wrong = folder_ / L"wrong.txt";
+    const Path right = folder_ / L"right.txt";
+    WriteBytes(wrong, "the housee\nand the waterr\n");
+    Start(L"");
+    Key('O', VK_CONTROL);
+    AnswerFileDialog(L"Open", wrong);
+    ASSERT_TRUE(WaitForCount(2));
+    for (const int left : {1, 0}) {
+        Key(VK_RETURN);
+        ASSERT_TRUE(WaitForCount(left));
+    }
+    DismissCompletion();
+    Key('S', VK_CONTROL);
+    AnswerFileDialog(L"Save As", right);
+    ASSERT_TRUE(WaitUntil([&] { return IsFile(right); }));
+    EXPECT_EQ(ReadBytes(right), "the house\nand the water\n");
+    EXPECT_EQ(ReadBytes(wrong), "the housee\nand the waterr\n");
+    Key(VK_ESCAPE);
+    ExpectEnd();
 }
 
 TEST_F(EndToEnd, F7ChecksATypedTextAndEscapeEnds) {
