@@ -25,6 +25,8 @@ trap 'exit 130' INT TERM
     exit 2
 }
 for size in "$@"; do
+    echo "== $size MB, the system's rich text box alone"
+    wine build/windows/bin/window_bench.exe "$size" bare
     echo "== $size MB"
     wine build/windows/bin/window_bench.exe "$size"
 done

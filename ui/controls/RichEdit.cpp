@@ -45,8 +45,9 @@ void RichEdit::Create(const Where& where) {
     static const HMODULE library = LoadLibraryW(L"msftedit.dll");
     static_cast<void>(library);
     where_ = where;
-    // No drag and drop of objects: files dropped here go to the form, objects nowhere. The scroll bar
-    // is always there: one that came with a long text would have the whole of it laid out again.
+    // No drag and drop of objects: files dropped here go to the form, objects nowhere. The scroll
+    // bar is always there: one that came with a long text would have the whole of it laid out
+    // again.
     Make(where, MSFTEDIT_CLASS,
          WS_TABSTOP | WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN |
              ES_NOOLEDRAGDROP | ES_DISABLENOSCROLL | WS_BORDER);
@@ -140,6 +141,8 @@ void RichEdit::ReplaceSelection(std::wstring_view text) {
 
 void RichEdit::SetQuiet(bool quiet) {
     Send(EM_SETEVENTMASK, 0, quiet ? 0 : ENM_CHANGE);
+    // A selection that shows is scrolled to at every step.
+    Send(EM_SETOPTIONS, quiet ? ECOOP_AND : ECOOP_OR, quiet ? ~ECO_NOHIDESEL : ECO_NOHIDESEL);
     Send(WM_SETREDRAW, !quiet);
     if (!quiet) Redraw();
 }
