@@ -40,8 +40,6 @@ wait_for_window() {
 program_id=
 leave_screen() {
     [ -z "$program_id" ] || kill "$program_id" 2>/dev/null || true
-    # Wine's own helpers end soon after the last program; the screen goes after them.
-    timeout 10 wineserver -w || true
     stop_display
 }
 

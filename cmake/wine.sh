@@ -27,7 +27,10 @@ start_display() {
 }
 
 stop_display() {
-    [ -z "$display_server" ] || kill "$display_server" 2>/dev/null || true
+    [ -n "$display_server" ] || return 0
+    # Wine's own helpers end soon after the last program; the screen goes after them.
+    timeout 10 wineserver -w || true
+    kill "$display_server" 2>/dev/null || true
     display_server=
 }
 

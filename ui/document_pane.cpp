@@ -129,7 +129,7 @@ std::wstring DocumentPane::SelectedText() {
 
 void DocumentPane::Select(TextRange range) {
     rtbW.Select(range);
-    rtbW.ScrollToCaret();
+    rtbW.ScrollToSelection();
 }
 
 void DocumentPane::Splice(std::size_t start, std::size_t removed, std::wstring_view inserted) {
@@ -197,7 +197,7 @@ void DocumentPane::Undo() {
             OnChanged();
         }
         rtbW.SetQuiet(false);
-        rtbW.ScrollToCaret();
+        rtbW.ScrollToSelection();
     } else {
         rtbW.Undo();
     }

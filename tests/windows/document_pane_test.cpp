@@ -78,6 +78,24 @@ TEST_F(DocumentPaneTest, WordsAreFoundWhereTheControlFindsThem) {
     EXPECT_GT(found, 50);
 }
 
+TEST_F(DocumentPaneTest, SelectedWordIsShownWithTheTextAroundIt) {
+    Open();
+    std::wstring text;
+    for (int line = 0; line < 300; ++line) text += L"the quick brown fox\r";
+    Controls().document.LoadPlainText({text});
+    RECT client{};
+    GetClientRect(Controls().rtbW.Handle(), &client);
+    for (const std::size_t line : {3u, 100u, 107u, 250u, 40u}) {
+        const std::size_t start = line * 20 + 4;
+        Controls().document.Select({start, 5});
+        POINTL place{};
+        SendMessageW(Controls().rtbW.Handle(), EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place),
+                     static_cast<LPARAM>(start));
+        EXPECT_GE(place.y, 0) << line;
+        EXPECT_LE(place.y, client.bottom * 2 / 3) << line;
+    }
+}
+
 TEST_F(DocumentPaneTest, EachChangeHasItsOwnRevision) {
     Open();
     DocumentPane& pane = Controls().document;

@@ -134,6 +134,20 @@ void RichEdit::Select(TextRange wanted) {
     Send(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
 }
 
+void RichEdit::ScrollToSelection() {
+    Send(EM_SCROLLCARET);
+    RECT client{};
+    GetClientRect(handle_, &client);
+    const auto start = static_cast<LPARAM>(Selection().start);
+    POINTL place{};
+    Send(EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place), start);
+    if (place.y <= 0 || place.y < client.bottom * 2 / 3) return;
+    // From the last lines up to about a third of the height; lines differ in height, so roughly.
+    const LRESULT lines_above = Send(EM_EXLINEFROMCHAR, 0, start) - Send(EM_GETFIRSTVISIBLELINE);
+    const LRESULT lines = lines_above * (place.y - client.bottom / 3) / place.y;
+    Send(EM_LINESCROLL, 0, static_cast<LPARAM>(lines));
+}
+
 void RichEdit::ReplaceSelection(std::wstring_view text) {
     const std::wstring value(text);
     Send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(value.c_str()));

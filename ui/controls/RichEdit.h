@@ -32,7 +32,8 @@ class RichEdit : public Control {
     /// May reach one unit behind the last: the document's own end.
     TextRange Selection() const;
     void Select(TextRange range);
-    void ScrollToCaret() { Send(EM_SCROLLCARET); }
+    /// Brings the selection into view, with some of the text that follows it.
+    void ScrollToSelection();
     void ReplaceSelection(std::wstring_view text);
     /// Neither paints nor tells the form of changes meanwhile.
     void SetQuiet(bool quiet);
