@@ -19,7 +19,7 @@ trap 'exit 130' INT TERM
     cmake --preset windows -DWORDHAWK_BENCHMARKS=ON &&
         cmake --build --preset windows --target window_bench &&
         start_display &&
-        prepare_wine
+        prepare_wine N
 } >"$log" 2>&1 </dev/null || {
     tail -n 40 "$log" >&2
     exit 2

@@ -43,12 +43,16 @@ leave_screen() {
     stop_display
 }
 
-# show_correction PROGRAM DOCUMENT FOLDER STATUS: opens the window on a copy of the document, changes
-# the first word that has a suggestion, and prints the path of a picture of the result. The copy, the
-# settings and the picture are in FOLDER. STATUS is 1 when the document has unknown words.
-show_correction() {
+# open_window PROGRAM DOCUMENT FOLDER: opens the window on a copy of the document and waits for it to
+# be at rest. The copy, the window's data and its $picture are in FOLDER.
+open_window() {
     picture=$3/wordhawk.png
     copy=$3/$(basename "$2")
+    case $copy in
+        *.txt | *.rtf) ;;
+        # The window takes files by these names only.
+        *) copy=$copy.txt ;;
+    esac
     rm -rf "$3"
     mkdir -p "$3/data"
     cp "$2" "$copy"
@@ -59,42 +63,52 @@ show_correction() {
     trap leave_screen EXIT
     trap 'exit 130' INT TERM
     quietly "Starting a virtual screen" start_display 1024x768x24
-    quietly "Preparing Wine" prepare_wine
+    quietly "Preparing Wine" prepare_wine N
     echo "== wine $1 $copy" >&2
     wine "$1" "$(windows_path "$copy")" >"$log" 2>&1 </dev/null &
     program_id=$!
     window=$(wait_for_window " - Wordhawk") || fail "The window did not come up (output: $log)"
     xdotool windowfocus --sync "$window" || true
     settle "$picture"
+}
 
-    if [ "$4" -eq 1 ]; then
-        presses=0
-        while :; do
-            cp "$picture" "$picture.start"
-            xdotool key Return
-            settle "$picture"
-            changed=$(difference "$picture.start" "$picture")
-            rm -f "$picture.start"
-            presses=$((presses + 1))
-            # Enter does nothing for a word without suggestions; Alt+G ignores all of it.
-            if [ "$changed" -ge 100 ] || [ "$presses" -ge 20 ]; then break; fi
-            xdotool key alt+g
-            settle "$picture"
-        done
-    fi
-
-    # Closing saves the copy.
-    xdotool key Escape
+# Closes what is open, boxes first, which also saves the copy.
+close_window() {
     tries=0
     while kill -0 "$program_id" 2>/dev/null; do
-        tries=$((tries + 1))
         [ "$tries" -lt 100 ] || fail "The window did not close (picture: $picture)"
+        [ $((tries % 20)) -ne 0 ] || xdotool key Escape
+        tries=$((tries + 1))
         sleep 0.1
     done
     program_id=
-    if [ "$4" -eq 1 ]; then
-        ! cmp -s "$2" "$copy" || fail "The correction did not reach $copy (picture: $picture)"
-        echo "== Corrected one word in $copy" >&2
-    fi
     echo "Picture of the window: $picture"
+}
+
+# show_document PROGRAM DOCUMENT FOLDER: prints the path of a picture of the window.
+show_document() {
+    open_window "$@"
+    close_window
+}
+
+# show_correction PROGRAM DOCUMENT FOLDER: as show_document, after changing the first word that has a
+# suggestion.
+show_correction() {
+    open_window "$@"
+    presses=0
+    while :; do
+        cp "$picture" "$picture.start"
+        xdotool key Return
+        settle "$picture"
+        changed=$(difference "$picture.start" "$picture")
+        rm -f "$picture.start"
+        presses=$((presses + 1))
+        # Enter does nothing for a word without suggestions; Alt+G ignores all of it.
+        if [ "$changed" -ge 100 ] || [ "$presses" -ge 30 ]; then break; fi
+        xdotool key alt+g
+        settle "$picture"
+    done
+    close_window
+    ! cmp -s "$2" "$copy" || fail "The correction did not reach $copy"
+    echo "== Corrected one word in $copy" >&2
 }

@@ -39,20 +39,26 @@ set_value() {
     wine reg add "HKCU\\$1" /v "$2" /t "$3" /d "$4" /f
 }
 
-# Makes the prefix with the looks of today's Windows. Silent and quick once that is done.
+# prepare_wine MANAGED: makes the prefix, with the looks of today's Windows. MANAGED is Y where a window
+# manager takes care of windows, and N on a bare screen, where Wine would wait for one at every window.
+# Silent and quick once that is done.
 prepare_wine() {
-    [ ! -f "$WINEPREFIX/wordhawk-ready" ] || return 0
-    wineboot -i || return 1
-    themes='Software\Microsoft\Windows\CurrentVersion\ThemeManager'
-    set_value "$themes" DllName REG_EXPAND_SZ 'C:\windows\resources\themes\light\light.msstyles' &&
-        set_value "$themes" ThemeActive REG_SZ 1 &&
-        set_value "$themes" ColorName REG_SZ Blue &&
-        set_value "$themes" SizeName REG_SZ NormalSize &&
-        # Wine's windows as their own managers: on a bare screen there is no window manager to wait for.
-        set_value 'Software\Wine\X11 Driver' Managed REG_SZ N &&
-        # Debian's Wine does not find its own symbols.
-        ln -sf /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" &&
-        touch "$WINEPREFIX/wordhawk-ready"
+    done_before=$(cat "$WINEPREFIX/wordhawk-managed" 2>/dev/null || true)
+    if [ -z "$done_before" ]; then
+        wineboot -i || return 1
+        themes='Software\Microsoft\Windows\CurrentVersion\ThemeManager'
+        set_value "$themes" DllName REG_EXPAND_SZ 'C:\windows\resources\themes\light\light.msstyles' &&
+            set_value "$themes" ThemeActive REG_SZ 1 &&
+            set_value "$themes" ColorName REG_SZ Blue &&
+            set_value "$themes" SizeName REG_SZ NormalSize &&
+            # Debian's Wine does not find its own symbols.
+            ln -sf /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" ||
+            return 1
+    fi
+    if [ "$done_before" != "$1" ]; then
+        set_value 'Software\Wine\X11 Driver' Managed REG_SZ "$1" || return 1
+        echo "$1" >"$WINEPREFIX/wordhawk-managed"
+    fi
 }
 
 # windows_path PATH: as Windows programs name an absolute path of ours.

@@ -3,6 +3,7 @@
 #include "dict/build.h"
 #include "platform/folders.h"
 #include "platform/modSect.h"
+#include "platform/win32/system_clipboard.h"
 #include "tests/support/temp_dir.h"
 #include "ui/frmNewSpell.h"
 
@@ -242,6 +243,22 @@ TEST_F(EndToEnd, TextIsOpenedCorrectedAndSavedThroughTheSystemsDialogs) {
     EXPECT_EQ(ReadBytes(wrong), "the housee\nand the waterr\n");
     Key(VK_ESCAPE);
     ExpectEnd();
+}
+
+TEST_F(EndToEnd, TextComesFromTheClipboardAndGoesBackCorrected) {
+    Setting(L"CheckClip", L"1");
+    Setting(L"SetClip", L"1");
+    SystemClipboard clipboard;
+    ASSERT_TRUE(clipboard.SetPlainText(L"the housee \u4E2D\r\nand the waterr"));
+    Start(L"");
+    Key(VK_F7);
+    for (const int left : {2, 1}) {
+        ASSERT_TRUE(WaitForCount(left));
+        Key('C', VK_MENU);
+    }
+    DismissCompletion();
+    ExpectEnd();
+    EXPECT_EQ(clipboard.PlainText(), L"the house \u4E2D\r\nand the water");
 }
 
 TEST_F(EndToEnd, F7ChecksATypedTextAndEscapeEnds) {
