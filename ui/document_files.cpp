@@ -16,6 +16,7 @@ std::wstring DocumentFiles::Filters() const {
 
 bool DocumentFiles::Load(const Path& file, bool rich) {
     const Hourglass busy(parts_.program.ui);
+    KeepUnsaved();
     const Result<void> loaded =
         rich ? parts_.document.LoadRichFile(file)
              : parts_.document.LoadPlainFile(file, *parts_.program.state.CodePage);
@@ -87,6 +88,33 @@ void DocumentFiles::SaveAs(HWND owner) {
                              {TextFromPath(choice->file.filename())}));
 }
 
+Path DocumentFiles::Kept(DocumentKind kind) const {
+    const char* name = kind == DocumentKind::Rich ? "Unsaved text.rtf" : "Unsaved text.txt";
+    return parts_.program.state.DataFolder / "Saves" / name;
+}
+
+void DocumentFiles::KeepUnsaved() {
+    DocumentPane& document = parts_.document;
+    if (!document.HasUnsavedText()) return;
+    // Nobody waits for this, so a failure is nobody's news.
+    if (document.IsRich()) {
+        static_cast<void>(document.SaveRichFile(Kept(DocumentKind::Rich)));
+    } else {
+        static_cast<void>(
+            document.SavePlainFile(Kept(DocumentKind::Plain), *parts_.program.state.CodePage));
+    }
+}
+
+void DocumentFiles::TellOfKept() {
+    if (!parts_.document.Empty() || CommandFileIsPending()) return;
+    for (const DocumentKind kind : {DocumentKind::Plain, DocumentKind::Rich}) {
+        const Path kept = Kept(kind);
+        if (!IsFile(kept)) continue;
+        parts_.status.Say(Filled(LoadResText(parts_.program.state, text_id::kKeptUnsaved),
+                                 {L"Saves\\" + TextFromPath(kept.filename())}));
+    }
+}
+
 void DocumentFiles::TakeClipboard() {
     Clipboard& clipboard = parts_.desktop.clipboard;
     if (clipboard.HasRichText()) {
@@ -103,7 +131,11 @@ void DocumentFiles::SetClipboard() {
     const bool done = settings.ClipType ? clipboard.SetRichText(parts_.document.RichText(),
                                                                 parts_.document.Text())
                                         : clipboard.SetPlainText(parts_.document.Text());
-    if (!done) parts_.commands.ShowError(text_id::kClipboardInUse, {});
+    if (done) {
+        parts_.document.MarkSaved();
+    } else {
+        parts_.commands.ShowError(text_id::kClipboardInUse, {});
+    }
 }
 
 }  // namespace wordhawk

@@ -34,6 +34,12 @@ class DocumentFiles {
     /// and the user knows.
     bool SaveBack();
 
+    /// Puts a text that would be lost into the folder of saved texts, in the place of the one kept
+    /// there before.
+    void KeepUnsaved();
+    /// Says where the text is that was kept the last time, if one was.
+    void TellOfKept();
+
     /// Takes the text that the clipboard holds, rich before plain.
     void TakeClipboard();
     /// Puts the document on the clipboard in the form that is wanted.
@@ -46,6 +52,7 @@ class DocumentFiles {
     bool Load(const Path& file, bool rich);
     const std::wstring& CommandFile() const { return parts_.program.state.CommandFile; }
     std::wstring Filters() const;
+    Path Kept(DocumentKind kind) const;
 
     Parts parts_;
     std::wstring title_;

@@ -259,6 +259,7 @@ void DocumentPane::LoadPlainText(DocumentText document) {
     ApplyTheme();
     rtbW.SetPlainText(document.text);
     OnChanged();
+    MarkSaved();
 }
 
 void DocumentPane::LoadRichText(std::string_view rtf) {
@@ -269,6 +270,7 @@ void DocumentPane::LoadRichText(std::string_view rtf) {
     ApplyTheme();
     rtbW.SetRtf(RtfWithoutObjects(rtf), RichEdit::Into::Document);
     OnChanged();
+    MarkSaved();
 }
 
 Result<void> DocumentPane::LoadPlainFile(const Path& file, const AnsiCodePage& page) {
@@ -290,13 +292,18 @@ Result<void> DocumentPane::LoadRichFile(const Path& file) {
 }
 
 Result<void> DocumentPane::SavePlainFile(const Path& file, const AnsiCodePage& page) {
-    return ReplaceFileContents(file, EncodeDocument(Text(), encoding_, line_ends_, page));
+    const Result<void> saved =
+        ReplaceFileContents(file, EncodeDocument(Text(), encoding_, line_ends_, page));
+    if (saved) MarkSaved();
+    return saved;
 }
 
 Result<void> DocumentPane::SaveRichFile(const Path& file) {
     const std::string rtf = RichText();
     if (rtf.empty()) return tl::unexpected(Error{L"not enough memory", file});
-    return ReplaceFileContents(file, rtf);
+    const Result<void> saved = ReplaceFileContents(file, rtf);
+    if (saved) MarkSaved();
+    return saved;
 }
 
 std::string DocumentPane::RichText() {

@@ -52,6 +52,10 @@ class DocumentPane : public SpellDocument {
     Result<void> SavePlainFile(const Path& file, const AnsiCodePage& page);
     Result<void> SaveRichFile(const Path& file);
     std::string RichText();
+    /// Whether there is text that differs from what was loaded or saved last.
+    bool HasUnsavedText() { return !Empty() && revision_ != saved_revision_; }
+    /// The text is safe elsewhere, as it is now.
+    void MarkSaved() { saved_revision_ = revision_; }
     /// Whether the text came in as rich text.
     bool IsRich() const { return rich_; }
 
@@ -92,6 +96,7 @@ class DocumentPane : public SpellDocument {
     std::wstring text_;
     bool text_is_current_ = false;
     std::uint64_t revision_ = 1;
+    std::uint64_t saved_revision_ = 1;
     int own_edits_ = 0;
     bool undoing_ = false;
     bool rich_ = false;

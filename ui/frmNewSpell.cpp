@@ -120,6 +120,7 @@ void frmNewSpell::Form_Load() {
         program_.settings.CheckClip) {
         files_.TakeClipboard();
     }
+    files_.TellOfKept();
     commands_.UpdateButtons();
     ShowTitle();
     loaded_ = true;
@@ -327,6 +328,7 @@ bool frmNewSpell::Form_QueryUnload() {
 }
 
 void frmNewSpell::Form_Unload() {
+    files_.KeepUnsaved();
     geometry_.Save(handle_, MeasureNow());
     suggestions_.SaveSliders();
     menus_.mnuCustD.RemoveFrom(1);

@@ -234,6 +234,41 @@ TEST_F(Documents, RichTextComesBackTheSameAfterSavingAndOpening) {
     }
 }
 
+TEST_F(Documents, TextThatWouldBeLostIsKeptAndTold) {
+    const Path kept = folder_ / L"data" / "Saves" / "Unsaved text.txt";
+    Open(File(L"note.txt", "teh dog"));
+    Form().Unload();
+    EXPECT_FALSE(IsFile(kept)) << "an unchanged text is still in its file";
+    Open(folder_ / L"note.txt");
+    Click(Controls().cmdChange);
+    Drop(File(L"other.txt", "a dog"));
+    EXPECT_EQ(ReadBytes(kept), "tea dog") << "another document takes its place";
+    Controls().rtbW.ReplaceSelection(L"caf\u00E9 \u4E2D");
+    Form().Unload();
+    EXPECT_EQ(ReadBytes(kept),
+              "caf\xC3\xA9 \xE4\xB8\xAD"
+              "a dog");
+    Open();
+    EXPECT_NE(Controls().lblStatus.Text().find(L"Saves\\Unsaved text.txt"), std::wstring::npos);
+}
+
+TEST_F(Documents, SavedTextIsNotKeptBesides) {
+    const Path kept = folder_ / L"data" / "Saves" / "Unsaved text.txt";
+    Setting(L"SetClip", L"1");
+    OpenWith(L"teh dog");
+    Click(Controls().cmdChange);
+    EXPECT_EQ(fakes_.clipboard.plain, L"tea dog");
+    Form().Unload();
+    EXPECT_FALSE(IsFile(kept)) << "the clipboard has it";
+    OpenWith(L"teh dog");
+    Click(Controls().cmdChange);
+    Controls().rtbW.ReplaceSelection(L"x");
+    fakes_.files.choice = FileChoice{folder_ / L"saved.txt", DocumentKind::Plain};
+    Form().cmdSaveAs_Click();
+    Form().Unload();
+    EXPECT_FALSE(IsFile(kept)) << "a file has it";
+}
+
 TEST_F(Documents, DroppedFileIsLoadedAndChecked) {
     Open();
     Drop(File(L"dropped.txt", "teh dog"));
