@@ -52,10 +52,14 @@ void CorrectionCommands::AddAll(AddIndex index) {
     ProgressWindow progress(parts_.program.state, parts_.theme, parts_.window(),
                             ProgressWindow::Appear::AtOnce);
     parts_.running(&progress);
+    const std::size_t count = session.Words().size();
     const SessionStep step = session.AddAll(index, progress);
     parts_.running(nullptr);
     progress.Hide();
     Run(step);
+    if (step.kind == SessionStep::Kind::Nothing || step.failure) return;
+    parts_.status.Say(Filled(LoadResText(parts_.program.state, text_id::kAddedWords),
+                             {std::to_wstring(count - session.Words().size())}));
 }
 
 void CorrectionCommands::UndoLastAdd() {

@@ -56,7 +56,11 @@ bool frmNewSpell::Show() {
     geometry_.Restore(handle_, MeasureNow());
     ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
     rtbW.SetFocus();
-    if (program_.state.ProgramMode && files_.CommandFileIsPending()) cmdSpellcheck_Click();
+    if (program_.state.ProgramMode && files_.CommandFileIsPending()) {
+        // A large document takes its time: until then, a whole window and not the outline of one.
+        RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        cmdSpellcheck_Click();
+    }
     return true;
 }
 

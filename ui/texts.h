@@ -38,7 +38,7 @@ inline constexpr int kCannotRead = 1051, kCannotWrite = 1052, kCannotWriteDictio
 inline constexpr int kAdded = 1061, kAlreadyThere = 1062, kTookOut = 1063, kNoUnknownWords = 1064,
                      kOneUnknownWord = 1065, kUnknownWords = 1066, kCheckCancelled = 1067,
                      kNoDictionary = 1068, kSaved = 1069, kRemoved = 1070, kNotRemoved = 1071,
-                     kChanged = 1072, kKeptUnsaved = 1073;
+                     kChanged = 1072, kKeptUnsaved = 1073, kAddedWords = 1074;
 
 inline constexpr int kSuggestionTip = 1081, kTextFiles = 1082, kRtfFiles = 1083;
 }  // namespace text_id

@@ -153,6 +153,7 @@ TEST_F(Corrections, AddAllAddsEveryWordAndFinishes) {
     EXPECT_THAT(Listed(), IsEmpty());
     const std::string file = ReadBytes(Custom(L"CUSTOM.DIC"));
     EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 11);
+    EXPECT_EQ(Controls().lblStatus.Text(), L"Added 11 words.");
     EXPECT_TRUE(IsWindowEnabled(Form().Handle()));
     EXPECT_FALSE(Controls().cmdAddAll[0].Enabled());
     EXPECT_FALSE(Controls().cmdAddAll[1].Enabled());
