@@ -32,7 +32,8 @@ std::string PathForMessage(const Path& path) {
 }
 
 Result<std::string> ReadWholeFile(const Path& path) {
-    // A check opens hundreds of small files, so what is rarely needed is asked only after a failure.
+    // A check opens hundreds of small files, so what is rarely needed is asked only after a
+    // failure.
     FileHandle file = OpenToRead(path);
     if (!file) {
         if (IsFolder(path)) return tl::unexpected(Error{L"this is a folder, not a file", path});
