@@ -118,10 +118,15 @@ void DocumentFiles::TellOfKept() {
 void DocumentFiles::TakeClipboard() {
     Clipboard& clipboard = parts_.desktop.clipboard;
     if (clipboard.HasRichText()) {
-        if (const auto rtf = clipboard.RichText()) parts_.document.LoadRichText(*rtf);
+        if (const auto rtf = clipboard.RichText()) return parts_.document.LoadRichText(*rtf);
     } else if (clipboard.HasPlainText()) {
-        if (auto text = clipboard.PlainText()) parts_.document.LoadPlainText({std::move(*text)});
+        if (auto text = clipboard.PlainText()) {
+            return parts_.document.LoadPlainText({std::move(*text)});
+        }
+    } else {
+        return;
     }
+    parts_.status.Say(LoadResText(parts_.program.state, text_id::kClipboardInUse));
 }
 
 void DocumentFiles::SetClipboard() {

@@ -22,7 +22,7 @@ class OpenedClipboard {
                                      nullptr, nullptr);
         }
         // Another program may have it open for a moment.
-        for (int tries = 0; tries < 20 && !open_; ++tries) {
+        for (int tries = 0; tries < 50 && !open_; ++tries) {
             if (tries > 0) Sleep(10);
             open_ = OpenClipboard(owner_) != FALSE;
         }

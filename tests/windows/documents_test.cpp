@@ -171,7 +171,12 @@ TEST_F(Documents, ClipboardIsTakenAtLoadRichBeforePlain) {
         EXPECT_EQ(DocumentText(), row.text);
         EXPECT_EQ(Controls().document.IsRich(), row.is_rich);
         EXPECT_THAT(Listed(), IsEmpty());
+        EXPECT_EQ(Controls().lblStatus.Text(), L"");
     }
+    fakes_.clipboard.plain = L"plain";
+    fakes_.clipboard.in_use = true;
+    Open();
+    EXPECT_EQ(Controls().lblStatus.Text(), L"The clipboard is in use by another program.");
 }
 
 TEST_F(Documents, OpenAsksWithBothFiltersLoadsAndChecks) {

@@ -66,9 +66,19 @@ class EndToEnd : public testing::Test {
             window_ = FindWindowW(frmNewSpell::kClassName, nullptr);
             return window_ != nullptr && IsWindowVisible(window_);
         })) << "no window came up";
-        SetForegroundWindow(window_);
-        ASSERT_TRUE(
-            WaitUntil([&] { return GetForegroundWindow() == window_ && Focus() != nullptr; }));
+        ASSERT_NO_FATAL_FAILURE(WaitForKeyboard(window_));
+    }
+    /// Until the keys go to a window of the program and have done so for a while: a screen is slow
+    /// to settle who has the keyboard.
+    void WaitForKeyboard(HWND window) {
+        SetForegroundWindow(window);
+        int times = 0;
+        ASSERT_TRUE(WaitUntil([&] {
+            const bool has_it =
+                GetForegroundWindow() == window && Focus() != nullptr && IsChild(window, Focus());
+            times = has_it ? times + 1 : 0;
+            return times == 20;
+        })) << "the window did not get the keyboard";
     }
     /// The control of the program that gets the keys.
     HWND Focus() const {
@@ -142,22 +152,20 @@ class EndToEnd : public testing::Test {
         })) << "no dialog came up";
         const HWND name = GetDlgItem(dialog, kFileName);
         SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(TextFromPath(path).c_str()));
-        SetForegroundWindow(dialog);
-        ASSERT_TRUE(WaitUntil([&] { return IsChild(name, Focus()) != FALSE; }));
+        ASSERT_NO_FATAL_FAILURE(WaitForKeyboard(dialog));
+        ASSERT_TRUE(IsChild(name, Focus()));
         Key(VK_RETURN);
         ASSERT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
+        WaitForKeyboard(window_);
     }
     void DismissCompletion() {
         HWND box = nullptr;
         ASSERT_TRUE(WaitUntil(
             [&] { return (box = FindWindowW(L"#32770", L"Spell check complete")) != nullptr; }));
         EXPECT_FALSE(IsWindowEnabled(window_)) << "keys would change the document behind the box";
-        SetForegroundWindow(box);
-        ASSERT_TRUE(WaitUntil([&] {
-            Key(VK_RETURN);
-            Sleep(100);
-            return !IsWindow(box);
-        }));
+        ASSERT_NO_FATAL_FAILURE(WaitForKeyboard(box));
+        Key(VK_RETURN);
+        ASSERT_TRUE(WaitUntil([&] { return !IsWindow(box); }));
     }
     void ExpectEnd() {
         ASSERT_EQ(WaitForSingleObject(process_.hProcess, kPatience), WAIT_OBJECT_0)
@@ -236,6 +244,7 @@ TEST_F(EndToEnd, TextIsOpenedCorrectedAndSavedThroughTheSystemsDialogs) {
         ASSERT_TRUE(WaitForCount(left));
     }
     DismissCompletion();
+    WaitForKeyboard(window_);
     Key('S', VK_CONTROL);
     AnswerFileDialog(L"Save As", right);
     ASSERT_TRUE(WaitUntil([&] { return IsFile(right); }));
@@ -251,9 +260,10 @@ TEST_F(EndToEnd, TextComesFromTheClipboardAndGoesBackCorrected) {
     SystemClipboard clipboard;
     ASSERT_TRUE(clipboard.SetPlainText(L"the housee \u4E2D\r\nand the waterr"));
     Start(L"");
+    ASSERT_GT(SendMessageW(Child(main_id::rtbW), WM_GETTEXTLENGTH, 0, 0), 0);
     Key(VK_F7);
     for (const int left : {2, 1}) {
-        ASSERT_TRUE(WaitForCount(left));
+        ASSERT_TRUE(WaitForCount(left)) << left;
         Key('C', VK_MENU);
     }
     DismissCompletion();

@@ -13,8 +13,8 @@ class FakeClipboard : public Clipboard {
   public:
     bool HasPlainText() const override { return plain.has_value(); }
     bool HasRichText() const override { return rich.has_value(); }
-    std::optional<std::wstring> PlainText() const override { return plain; }
-    std::optional<std::string> RichText() const override { return rich; }
+    std::optional<std::wstring> PlainText() const override { return in_use ? std::nullopt : plain; }
+    std::optional<std::string> RichText() const override { return in_use ? std::nullopt : rich; }
     bool SetPlainText(std::wstring_view text) override {
         if (in_use) return false;
         plain = std::wstring(text);
