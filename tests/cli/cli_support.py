@@ -13,6 +13,12 @@ hit hits in is it line lines named naïve no of off on one receive star test tex
 they this to two well with word words world""".split()
 
 
+def wine_failed(done):
+    """Whether Wine gave up before our program began, as it does now and then on a busy machine: it
+    says why, ends with 1, and the program has said nothing."""
+    return done.returncode == 1 and not done.stdout and re.search(rb"^wine", done.stderr, re.MULTILINE)
+
+
 class Program:
     """The program under test, perhaps behind an emulator."""
 
@@ -28,8 +34,11 @@ class Program:
     def run(self, *arguments, stdin=b"", cwd=None):
         if isinstance(stdin, str):
             stdin = stdin.encode()
-        done = subprocess.run(self.command + [str(a) for a in arguments], input=stdin, cwd=cwd,
-                              capture_output=True, timeout=120)
+        command = self.command + [str(a) for a in arguments]
+        for _ in range(3):
+            done = subprocess.run(command, input=stdin, cwd=cwd, capture_output=True, timeout=120)
+            if not (self.emulated and wine_failed(done)):
+                break
         if self.emulated:  # what Wine says about itself is not ours
             done.stderr = b"".join(line for line in done.stderr.splitlines(keepends=True)
                                    if not re.match(rb"wine:|[0-9a-f]{4}:(err|fixme|warn):", line))
