@@ -38,9 +38,7 @@ bool DocumentFiles::Open(HWND owner) {
 
 bool DocumentFiles::LoadDropped(const std::wstring& path) {
     const bool rich = modValidations::GetFileType(path) == modValidations::kRichTextFile;
-    if (!Load(PathFromText(path), rich)) return false;
-    if (!rich) parts_.document.rtbW.SetFontName(parts_.document.DefaultFontName());
-    return true;
+    return Load(PathFromText(path), rich);
 }
 
 bool DocumentFiles::LoadCommandFile() {

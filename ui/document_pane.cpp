@@ -132,18 +132,13 @@ void DocumentPane::Select(TextRange range) {
     rtbW.ScrollToSelection();
 }
 
-void DocumentPane::Splice(std::size_t start, std::size_t removed, std::wstring_view inserted) {
-    text_.replace(start, removed, inserted);
-}
-
 void DocumentPane::ReplaceSelection(std::wstring_view text) {
     const TextRange range = Selection();
-    Text();
     {
         const OwnEdit own(own_edits_);
         rtbW.ReplaceSelection(text);
     }
-    Splice(range.start, range.length, text);
+    text_.replace(range.start, range.length, text);
     ++revision_;
     // What the control made of it counts, should it be something else.
     text_is_current_ = rtbW.Length() == text_.size();
@@ -152,15 +147,18 @@ void DocumentPane::ReplaceSelection(std::wstring_view text) {
 void DocumentPane::ReplaceAll(std::span<const std::size_t> starts, std::size_t length,
                               std::wstring_view text) {
     if (starts.empty()) return;
-    const Fingerprint before = FingerprintOfText();
+    // A single step needs no grouping, and so no look over the whole text.
+    const bool grouped = starts.size() > 1;
+    const Fingerprint before = grouped ? FingerprintOfText() : Fingerprint{};
+    const std::wstring& old_text = Text();
     std::wstring result;
-    result.reserve(text_.size() + starts.size() * text.size());
+    result.reserve(old_text.size() + starts.size() * text.size());
     std::size_t from = 0;
     for (const std::size_t start : starts) {
-        result.append(text_, from, start - from).append(text);
+        result.append(old_text, from, start - from).append(text);
         from = start + length;
     }
-    result.append(text_, from, std::wstring::npos);
+    result.append(old_text, from, std::wstring::npos);
     {
         const OwnEdit own(own_edits_);
         rtbW.SetQuiet(true);
@@ -174,7 +172,7 @@ void DocumentPane::ReplaceAll(std::span<const std::size_t> starts, std::size_t l
     text_ = std::move(result);
     ++revision_;
     text_is_current_ = rtbW.Length() == text_.size();
-    groups_.push_back({before, FingerprintOfText(), starts.size()});
+    if (grouped) groups_.push_back({before, FingerprintOfText(), starts.size()});
 }
 
 DocumentPane::Fingerprint DocumentPane::FingerprintOfText() {

@@ -59,10 +59,9 @@ class DocumentPane : public SpellDocument {
     /// Whether the text came in as rich text.
     bool IsRich() const { return rich_; }
 
-    const std::wstring& DefaultFontName() const { return default_font_; }
-    void RememberFontName() { default_font_ = rtbW.FontName(); }
     /// Dress in the theme's colours. A rich text keeps its paper: its colours are its own.
     void ApplyTheme();
+    /// The default font, to which every plain text is set back as it is loaded.
     void SetLook(std::wstring face, int half_points);
 
     bool CanUndo() const { return rtbW.CanUndo(); }
@@ -86,13 +85,11 @@ class DocumentPane : public SpellDocument {
     std::optional<LRESULT> Filter(UINT message, WPARAM wparam, LPARAM lparam);
     void Renew();
     void InstallFilter();
-    void Splice(std::size_t start, std::size_t removed, std::wstring_view inserted);
 
     Clipboard& clipboard_;
     const Theme& theme_;
     Subclass subclass_;
     RichEdit::Look look_;
-    std::wstring default_font_;
     std::wstring text_;
     bool text_is_current_ = false;
     std::uint64_t revision_ = 1;

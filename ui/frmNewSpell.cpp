@@ -119,7 +119,6 @@ void frmNewSpell::Form_Load() {
     LOGFONTW font{};
     GetObjectW(Font(), sizeof font, &font);
     document.SetLook(font.lfFaceName, 20);
-    document.RememberFontName();
     if (program_.state.ProgramMode && program_.state.CommandFile.empty() &&
         program_.settings.CheckClip) {
         files_.TakeClipboard();

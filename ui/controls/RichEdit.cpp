@@ -161,12 +161,6 @@ void RichEdit::SetQuiet(bool quiet) {
     if (!quiet) Redraw();
 }
 
-std::wstring RichEdit::FontName() const {
-    CHARFORMAT2W format = EmptyFormat();
-    Send(EM_GETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
-    return format.szFaceName;
-}
-
 void RichEdit::SetLook(const Look& look) {
     CHARFORMAT2W format = EmptyFormat();
     format.dwMask = CFM_FACE | CFM_SIZE | CFM_COLOR | CFM_CHARSET | CFM_BOLD | CFM_ITALIC;
@@ -182,14 +176,6 @@ void RichEdit::SetLook(const Look& look) {
 
 void RichEdit::SetBackground(COLORREF colour) {
     Send(EM_SETBKGNDCOLOR, 0, static_cast<LPARAM>(colour));
-}
-
-void RichEdit::SetFontName(const std::wstring& face) {
-    CHARFORMAT2W format = EmptyFormat();
-    format.dwMask = CFM_FACE;
-    face.copy(format.szFaceName, LF_FACESIZE - 1);
-    Send(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
-    Send(EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
 }
 
 }  // namespace wordhawk

@@ -42,7 +42,6 @@ class RichEdit : public Control {
     bool Undo() { return Send(EM_UNDO) != 0; }
     void ForgetUndo() { Send(EM_EMPTYUNDOBUFFER); }
 
-    std::wstring FontName() const;
     /// Face, size in points and colour of text that has none of its own; no colour: the system's.
     struct Look {
         std::wstring face;
@@ -56,8 +55,6 @@ class RichEdit : public Control {
     LRESULT Request(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
         return Send(message, wparam, lparam);
     }
-    /// Another face for the text as a whole.
-    void SetFontName(const std::wstring& face);
 
     std::wstring Caption() const override { return {}; }
     void SetCaption(const std::wstring&) override {}
