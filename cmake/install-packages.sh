@@ -43,7 +43,7 @@ install_packages() {
 
 # What every build needs.
 BUILD_PACKAGES="cmake ninja-build g++ python3
-    libcli11-dev libexpected-dev nlohmann-json3-dev"
+    libcli11-dev libexpected-dev"
 # Sources of the shipped dictionaries (data/sources/README.md).
 WORD_LIST_PACKAGES="wamerican-large wbritish-large wngerman wfrench hunspell-es witalian hunspell-it
     wdutch wportuguese wbrazilian wdanish hunspell-sv wpolish"

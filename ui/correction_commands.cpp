@@ -27,13 +27,17 @@ bool CorrectionCommands::Begin(std::vector<std::wstring> words) {
 }
 
 void CorrectionCommands::Reset() {
-    NewSpellControls& c = parts_.controls;
     session.Reset();
-    c.lstNID.Clear();
+    ShowNoWords();
+}
+
+void CorrectionCommands::ShowNoWords() {
+    NewSpellControls& c = parts_.controls;
     parts_.suggestions.Clear();
-    c.lblNID.SetText({});
-    c.txtChgTo.SetText({});
+    c.lstNID.Clear();
     UpdateCounter();
+    c.txtChgTo.SetText({});
+    c.lblNID.SetText({});
     UpdateButtons();
 }
 
@@ -86,7 +90,10 @@ void CorrectionCommands::Run(const SessionStep& step) {
         case SessionStep::Kind::Nothing: break;
         case SessionStep::Kind::NextOccurrence: ShowSuggestions(); break;
         case SessionStep::Kind::NewWord: ShowWord(); break;
-        case SessionStep::Kind::Finished: Finish(step); break;
+        case SessionStep::Kind::Finished:
+            ShowNoWords();
+            parts_.finished(step);
+            break;
     }
     UpdateButtons();
 }
@@ -128,17 +135,6 @@ void CorrectionCommands::TellScreenReader() {
     NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, c.lblNID.Handle(), OBJID_WINDOW, CHILDID_SELF);
     NotifyWinEvent(EVENT_OBJECT_SELECTION, c.lstNID.Handle(), OBJID_CLIENT, child);
     NotifyWinEvent(EVENT_OBJECT_FOCUS, c.lstNID.Handle(), OBJID_CLIENT, child);
-}
-
-void CorrectionCommands::Finish(const SessionStep& step) {
-    NewSpellControls& c = parts_.controls;
-    parts_.suggestions.Clear();
-    c.lstNID.Clear();
-    UpdateCounter();
-    c.txtChgTo.SetText({});
-    c.lblNID.SetText({});
-    UpdateButtons();
-    parts_.finished(step);
 }
 
 void CorrectionCommands::TellOfAdd(const SessionStep& step) {

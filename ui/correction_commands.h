@@ -71,7 +71,7 @@ class CorrectionCommands {
     void UpdateList(const SessionStep& step);
     void ShowWord();
     void ShowSuggestions();
-    void Finish(const SessionStep& step);
+    void ShowNoWords();
     void TellOfAdd(const SessionStep& step);
     void TellScreenReader();
 

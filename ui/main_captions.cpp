@@ -51,7 +51,7 @@ void SetTextIds(NewSpellControls& c, MainMenus& menus) {
 
 void SetComposedCaptions(const ProgramState& state, NewSpellControls& c) {
     using namespace text_id;
-    c.lblScore.SetText(LoadResText(state, kMatch, L"80% - 100% "));
+    c.lblScore.SetText(captions::ScoreRange(state, 80));
     c.lblDum[0].SetText(LoadResText(state, kNotInDictionary));
     c.lblDum[1].SetText(LoadResText(state, kChangeTo));
     c.lblDum[2].SetText(LoadResText(state, kScore, {}, L" %"));

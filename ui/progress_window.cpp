@@ -2,6 +2,7 @@
 
 #include "lang/modLoadRes.h"
 #include "ui/layout.h"
+#include "ui/texts.h"
 
 #include <commctrl.h>
 
@@ -13,7 +14,6 @@ namespace {
 constexpr std::uint64_t kYieldEvery = 30;   // milliseconds
 constexpr std::uint64_t kWaitBefore = 400;  // milliseconds
 constexpr int kBarSteps = 1000;
-constexpr int kTextCancel = 115;
 
 /// The bar: a common control without any text of its own.
 class Bar : public Control {
@@ -124,7 +124,8 @@ void ProgressWindow::Hide() {
 
 void ProgressWindow::Update() {
     if (!box_) {
-        box_ = std::make_unique<Box>(*this, theme_, modLoadRes::LoadResText(state_, kTextCancel));
+        box_ =
+            std::make_unique<Box>(*this, theme_, modLoadRes::LoadResText(state_, text_id::kCancel));
         box_->Create(owner_);
         SetWindowTextW(box_->Handle(), title_.c_str());
         ShowWindow(box_->Handle(), SW_SHOW);

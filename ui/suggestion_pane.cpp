@@ -74,6 +74,8 @@ void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_lis
     following_ = false;
     if (found.best < 0) {
         ShowNone();
+        // Its change handler disables the change commands.
+        c.txtChgTo.SetText({});
         return;
     }
     const int best = c.lstSug.FindExact(found.list[static_cast<std::size_t>(found.best)].word);
@@ -84,12 +86,9 @@ void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_lis
 }
 
 void SuggestionPane::ShowNone() {
-    NewSpellControls& c = parts_.controls;
-    c.lstSug.Append(kNoSuggestions);
-    c.lstSco.Append(kNoScore);
+    parts_.controls.lstSug.Append(kNoSuggestions);
+    parts_.controls.lstSco.Append(kNoScore);
     SetCount(0);
-    // Its change handler disables the change commands.
-    c.txtChgTo.SetText({});
 }
 
 void SuggestionPane::Clear() {
@@ -177,9 +176,7 @@ Result<Path> SuggestionPane::RemoveSelectedWord() {
     c.lstSug.RemoveAt(index);
     c.lstSco.RemoveAt(index);
     if (c.lstSug.Count() == 0) {
-        c.lstSug.Append(kNoSuggestions);
-        c.lstSco.Append(kNoScore);
-        SetCount(0);
+        ShowNone();
     } else {
         SetCount(c.lstSug.Count());
     }

@@ -60,7 +60,6 @@ class SuggestionPane {
     /// Why the suggestion of a row scored what it did, for its tool tip.
     std::wstring Explanation(int row) const;
     /// The word that the suggestions shown are for.
-    const std::wstring& SearchedWord() const { return searched_; }
 
   private:
     void ShowNone();

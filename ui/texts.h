@@ -10,15 +10,14 @@ namespace wordhawk {
 /// our own.
 namespace text_id {
 inline constexpr int kAdd = 105, kAddAll = 106, kCust = 114, kCancel = 115, kChange = 121,
-                     kChangeAll = 122, kChecking = 124, kCopy = 127, kCopyData = 128,
-                     kCopyWord = 129, kCut = 132, kCustomDictionaries = 135, kDelete = 137,
-                     kIgnoreAll = 157, kIgnore = 158, kMatch = 167, kNotInDictionary = 176,
-                     kOpen = 178, kOptions = 180, kPaste = 182, kPreferences = 188,
-                     kRemoveWord = 193, kSaveAs = 198, kScore = 200, kChangeTo = 202,
-                     kSelectAll = 203, kSpellCheck = 206, kCheckComplete = 207,
+                     kChangeAll = 122, kCopy = 127, kCopyData = 128, kCopyWord = 129, kCut = 132,
+                     kCustomDictionaries = 135, kDelete = 137, kIgnoreAll = 157, kIgnore = 158,
+                     kNotInDictionary = 176, kOpen = 178, kOptions = 180, kPaste = 182,
+                     kPreferences = 188, kRemoveWord = 193, kSaveAs = 198, kScore = 200,
+                     kChangeTo = 202, kSelectAll = 203, kSpellCheck = 206, kCheckComplete = 207,
                      kSpellingCheck = 209, kSuggestions = 215, kUndo = 226;
 
-inline constexpr int kDocument = 1001, kRecentChanges = 1002, kStatus = 1003;
+inline constexpr int kDocument = 1001, kRecentChanges = 1002;
 
 inline constexpr int kTipChange = 1011, kTipChangeAll = 1012, kTipIgnore = 1013,
                      kTipIgnoreAll = 1014, kTipAddMain = 1015, kTipAddAllMain = 1016,
@@ -32,8 +31,7 @@ inline constexpr int kSearchBySound = 1041, kSearchByAny = 1042, kSearchByCloseS
                      kCountSwaps = 1044, kCopyList = 1045;
 
 inline constexpr int kCannotRead = 1051, kCannotWrite = 1052, kCannotWriteDictionary = 1053,
-                     kWrongFileType = 1054, kNoRichText = 1055, kClipboardInUse = 1056,
-                     kFileMissing = 1057;
+                     kWrongFileType = 1054, kClipboardInUse = 1056, kFileMissing = 1057;
 
 inline constexpr int kAdded = 1061, kAlreadyThere = 1062, kTookOut = 1063, kNoUnknownWords = 1064,
                      kOneUnknownWord = 1065, kUnknownWords = 1066, kCheckCancelled = 1067,

@@ -1,10 +1,10 @@
 #include "dict/dictionary_file.h"
+#include "tests/fuzz/rounds.h"
 #include "tests/support/random_text.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 
 namespace wordhawk {
@@ -12,12 +12,6 @@ namespace {
 
 using dictionary_edit::SortMoment;
 using test::Random;
-
-/// More rounds than usual can be asked for from outside.
-std::uint32_t Rounds() {
-    const char* const asked = std::getenv("WORDHAWK_FUZZ_ROUNDS");
-    return asked != nullptr ? static_cast<std::uint32_t>(std::atol(asked)) : 4000u;
-}
 
 std::string RandomBytes(Random& random, std::size_t longest) {
     static const std::string kSpecial(",,\r\n\r\n\0\x1A 0-9aA\x80\xFF\xE9", 17);
@@ -140,7 +134,7 @@ void CheckRemoval(const std::string& bytes, const std::string& entry) {
 }
 
 TEST(FuzzDictionaryFile, KeepsItsPromisesWhateverTheBytes) {
-    for (std::uint32_t round = 0; round < Rounds(); ++round) {
+    for (std::uint32_t round = 0; round < test::Rounds(); ++round) {
         Random random(round);
         const AnsiCodePage& page = AnsiCodePage::Get(random.OneIn(3) ? 1251 : 1252);
         std::string bytes = ValidFile(random, page);

@@ -1,21 +1,15 @@
 #include "cli/pipe_session.h"
 #include "cli/session.h"
+#include "tests/fuzz/rounds.h"
 #include "tests/support/random_text.h"
 #include "tests/support/temp_dir.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 namespace wordhawk {
 namespace {
 
 using test::Random;
-
-std::uint32_t Rounds() {
-    const char* const asked = std::getenv("WORDHAWK_FUZZ_ROUNDS");
-    return asked != nullptr ? static_cast<std::uint32_t>(std::atol(asked)) : 4000u;
-}
 
 class PipeFuzz : public testing::Test {
   protected:
@@ -103,7 +97,7 @@ TEST_F(PipeFuzz, AnswersEveryLineInForm) {
     const auto session = Start();
     Output out(nullptr);
     PipeSession pipe(session->program, out);
-    for (std::uint32_t round = 0; round < Rounds(); ++round) {
+    for (std::uint32_t round = 0; round < test::Rounds(); ++round) {
         const std::wstring line = RandomLine(random);
         if (line.starts_with(L'#') && !random.OneIn(50)) continue;  // each writes a file
         pipe.HandleLine(ToUtf8(line));
@@ -126,7 +120,7 @@ TEST_F(PipeFuzz, BearsBytes) {
     const auto session = Start();
     Output out(nullptr);
     PipeSession pipe(session->program, out);
-    for (std::uint32_t round = 0; round < Rounds(); ++round) {
+    for (std::uint32_t round = 0; round < test::Rounds(); ++round) {
         std::string line(random.Below(60), '\0');
         for (char& c : line) c = random.OneIn(3) ? ' ' : static_cast<char>(random.Below(256));
         if (line.starts_with('#')) line[0] = '^';

@@ -1,20 +1,14 @@
 #include "engine/rtf_text.h"
 #include "platform/text.h"
+#include "tests/fuzz/rounds.h"
 #include "tests/support/random_text.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
 
 namespace wordhawk {
 namespace {
 
 using test::Random;
-
-std::uint32_t Rounds() {
-    const char* const asked = std::getenv("WORDHAWK_FUZZ_ROUNDS");
-    return asked != nullptr ? static_cast<std::uint32_t>(std::atol(asked)) : 4000u;
-}
 
 struct Document {
     std::string rtf;
@@ -78,7 +72,7 @@ Document MakeDocument(Random& random) {
 
 TEST(RtfFuzz, GivesExactlyTheTextThatWasPutIn) {
     Random random(1);
-    for (std::uint32_t round = 0; round < Rounds(); ++round) {
+    for (std::uint32_t round = 0; round < test::Rounds(); ++round) {
         const Document document = MakeDocument(random);
         ASSERT_EQ(RtfToText(document.rtf), document.text) << document.rtf;
     }
@@ -105,7 +99,7 @@ TEST(RtfFuzz, BearsBrokenDocuments) {
                                              std::string(1, '\0'),
                                              "\\footnote ",
                                              "\\ansicpg0"};
-    for (std::uint32_t round = 0; round < Rounds(); ++round) {
+    for (std::uint32_t round = 0; round < test::Rounds(); ++round) {
         std::string rtf = MakeDocument(random).rtf;
         for (std::size_t changes = 1 + random.Below(6); changes > 0; --changes) {
             const std::size_t at = random.Below(rtf.size() + 1);
