@@ -1,5 +1,5 @@
 #include "bench/english.h"
-#include "engine/cLS.h"
+#include "engine/suggest/cLS.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 #include "bench/english.h"
 
-#include "engine/document_text.h"
+#include "engine/document/document_text.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 

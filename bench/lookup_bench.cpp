@@ -1,5 +1,5 @@
 #include "bench/english.h"
-#include "engine/check_pass.h"
+#include "engine/check/check_pass.h"
 
 #include <benchmark/benchmark.h>
 

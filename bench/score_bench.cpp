@@ -1,6 +1,6 @@
 #include "bench/english.h"
 #include "dict/phonetic_key.h"
-#include "engine/modSimPercent.h"
+#include "engine/suggest/modSimPercent.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
 #include "bench/english.h"
-#include "engine/word_scanner.h"
+#include "engine/check/word_scanner.h"
 
 #include <benchmark/benchmark.h>
 

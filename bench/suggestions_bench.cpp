@@ -1,5 +1,5 @@
 #include "bench/english.h"
-#include "engine/suggestions.h"
+#include "engine/suggest/suggestions.h"
 
 #include <benchmark/benchmark.h>
 

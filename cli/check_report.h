@@ -3,8 +3,8 @@
 #include "cli/options.h"
 #include "cli/output.h"
 #include "dict/dictionary_store.h"
-#include "engine/suggestions.h"
-#include "engine/text_checker.h"
+#include "engine/check/text_checker.h"
+#include "engine/suggest/suggestions.h"
 
 #include <cstdint>
 #include <memory>

@@ -3,9 +3,9 @@
 #include "cli/output.h"
 #include "cli/session.h"
 #include "dict/phonetic_key.h"
-#include "engine/cLS.h"
-#include "engine/modSimPercent.h"
-#include "engine/suggestions.h"
+#include "engine/suggest/cLS.h"
+#include "engine/suggest/modSimPercent.h"
+#include "engine/suggest/suggestions.h"
 
 #include <array>
 #include <utility>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "cli/output.h"
+#include "engine/check/text_checker.h"
 #include "engine/program.h"
-#include "engine/suggestions.h"
-#include "engine/text_checker.h"
+#include "engine/suggest/suggestions.h"
 
 #include <cstdint>
 #include <memory>

@@ -2,7 +2,7 @@
 #include "cli/output.h"
 #include "cli/session.h"
 #include "cli/word_input.h"
-#include "engine/suggestions.h"
+#include "engine/suggest/suggestions.h"
 
 namespace wordhawk {
 

@@ -1,6 +1,6 @@
 #include "cli/text_blocks.h"
 
-#include "engine/rtf_text.h"
+#include "engine/document/rtf_text.h"
 
 #include <algorithm>
 

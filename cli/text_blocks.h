@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/byte_source.h"
-#include "engine/document_text.h"
+#include "engine/document/document_text.h"
 #include "platform/text.h"
 
 #include <string>

@@ -3,8 +3,8 @@
 #include "platform/win32/system_clipboard.h"
 #include "platform/win32/system_sound.h"
 #include "ui/desktop.h"
-#include "ui/frmNewSpell.h"
-#include "ui/message_loop.h"
+#include "ui/framework/message_loop.h"
+#include "ui/main_window/frmNewSpell.h"
 #include "ui/ui_services_win32.h"
 
 #include <objbase.h>

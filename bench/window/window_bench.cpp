@@ -6,8 +6,8 @@
 
 #include "platform/text.h"
 #include "tests/support/temp_dir.h"
-#include "tests/windows/fake_desktop.h"
-#include "ui/frmNewSpell.h"
+#include "tests/windows/main_window/fake_desktop.h"
+#include "ui/main_window/frmNewSpell.h"
 
 #include <psapi.h>
 #include <richedit.h>

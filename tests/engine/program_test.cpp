@@ -1,6 +1,6 @@
 #include "engine/program.h"
 
-#include "engine/check_pass.h"
+#include "engine/check/check_pass.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/temp_dir.h"
 

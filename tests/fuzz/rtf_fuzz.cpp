@@ -1,4 +1,4 @@
-#include "engine/rtf_text.h"
+#include "engine/document/rtf_text.h"
 #include "platform/text.h"
 #include "tests/fuzz/rounds.h"
 #include "tests/support/random_text.h"

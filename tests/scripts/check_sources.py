@@ -27,6 +27,13 @@ LAYERS = {
     "ui": ("platform", "app", "lang", "dict", "engine", "automation"),
     "automation": ("platform", "app", "lang", "dict", "engine", "ui"),
 }
+# Which rooms of a folder the files of a room may include; "" is the folder itself.
+ROOMS = {
+    "engine": {"document": (), "suggest": (), "check": ("document",), "session": ("check",),
+               "": ("check", "document", "suggest", "session")},
+    "ui": {"framework": (), "dialogs": ("framework", ""), "main_window": ("framework", "dialogs", ""),
+           "": ("framework", "dialogs", "main_window")},
+}
 # Where code for Windows alone lives; platform/win32/win.h is its one door to the system.
 WINDOWS_ONLY = ("platform/win32/", "cli/win32/", "ui/", "automation/", "tests/windows/", "tests/ui/",
                 "tests/automation/")
@@ -69,6 +76,24 @@ def arrows(files):
         for included in INCLUDE.findall(source_text(name)):
             target = included.split("/")[0]
             if target in LAYERS and target != folder and target not in LAYERS[folder]:
+                yield f"{name} includes {included}"
+
+
+def room_of(name):
+    parts = name.split("/")
+    return parts[1] if len(parts) > 2 else ""
+
+
+def rooms(files):
+    """Inside a folder of several rooms the arrows point one way as well."""
+    for name in files:
+        folder = name.split("/")[0]
+        if folder not in ROOMS or not is_cpp(name):
+            continue
+        room = room_of(name)
+        for included in INCLUDE.findall(source_text(name)):
+            target = room_of(included)
+            if included.split("/")[0] == folder and target != room and target not in ROOMS[folder][room]:
                 yield f"{name} includes {included}"
 
 
@@ -145,7 +170,7 @@ def headers_alone(files):
                     yield complaint
 
 
-RULES = (arrows, system_headers, wide_functions, lengths, guards, headers_alone)
+RULES = (arrows, rooms, system_headers, wide_functions, lengths, guards, headers_alone)
 
 
 def main():

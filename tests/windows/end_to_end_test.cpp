@@ -5,7 +5,7 @@
 #include "platform/modSect.h"
 #include "platform/win32/system_clipboard.h"
 #include "tests/support/temp_dir.h"
-#include "ui/frmNewSpell.h"
+#include "ui/main_window/frmNewSpell.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "dict/dictionary_store.h"
+#include "engine/check/word_scanner.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace wordhawk {
+
+/// One occurrence of a word that no dictionary holds. Views are valid during the callback only.
+struct UnknownWord {
+    /// Index of the word in TextChecker::Words().
+    std::size_t index;
+    /// Lower-cased, as the list shows it.
+    std::wstring_view listed;
+    /// As it stands in the text.
+    std::wstring_view text;
+    /// In UTF-16 units from the start of the first block; as many units long as `text`.
+    std::uint64_t offset;
+};
+
+/// Checks a text that comes in blocks. Memory grows with the number of distinct unknown words only.
+class TextChecker {
+  public:
+    /// The store must outlive the checker; with setting SuggFromMain only main dictionaries count.
+    TextChecker(DictionaryStore& store, const SplitRules& rules);
+
+    /// Calls `sink(const UnknownWord&)` for every occurrence of an unknown word, in text order.
+    /// A block ends behind a space or a line break, or is the last.
+    template <class Sink>
+    void Feed(std::wstring_view block, Sink&& sink) {
+        scanner_.Scan(block, [&](const ScannedWord& word) {
+            if (!word.bytes.empty() && IsInMain(word)) return;
+            const std::int64_t index = IndexOfUnknown(word.text);
+            if (index >= 0) {
+                const auto at = static_cast<std::size_t>(index);
+                sink(UnknownWord{at, words_[at], word.text, word.offset});
+            }
+        });
+    }
+
+    /// Calls `sink(const ScannedWord&, bool known)` for every word.
+    template <class Sink>
+    void FeedAll(std::wstring_view block, Sink&& sink) {
+        scanner_.Scan(block, [&](const ScannedWord& word) {
+            sink(word, (!word.bytes.empty() && IsInMain(word)) || IndexOfUnknown(word.text) < 0);
+        });
+    }
+
+    /// The distinct unknown words so far, in the order in which they were met.
+    const std::vector<std::wstring>& Words() const { return words_; }
+
+  private:
+    bool IsInMain(const ScannedWord& word) {
+        const bool packs = word.packed != PackedWord{};
+        PackedWord& recent = recent_[(word.packed.low ^ word.packed.high) * 0x9E3779B97F4A7C15u >>
+                                     (64 - kRecentBits)];
+        if (packs && recent == word.packed) return true;
+        const DictionaryFile& file = store_.MainFileOfBytes(
+            static_cast<unsigned char>(word.bytes[0]), static_cast<unsigned char>(word.bytes[1]));
+        if (!file.ContainsHashed(word.bytes, DictionaryFile::HashBytes(word.bytes),
+                                 EntryForms::KeyedOnly)) {
+            return false;
+        }
+        if (packs) recent = word.packed;
+        return true;
+    }
+    /// The word's place in the list (added when new), or -1 when a dictionary holds it.
+    std::int64_t IndexOfUnknown(std::wstring_view text);
+
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::wstring_view text) const {
+            return std::hash<std::wstring_view>()(text);
+        }
+    };
+
+    // Some ten thousand words make up nearly all of any text; these stay in the processor's cache.
+    static constexpr int kRecentBits = 15;
+
+    struct Free {
+        void operator()(PackedWord* words) const { std::free(words); }
+    };
+    /// Zeroed memory that the system provides page by page as it is used, so that a short text does
+    /// not pay for it.
+    static std::unique_ptr<PackedWord[], Free> MakeRecent();
+
+    DictionaryStore& store_;
+    Scope scope_;
+    WordScanner scanner_;
+    /// Words lately found in the main dictionary, each in the place that its bytes choose.
+    std::unique_ptr<PackedWord[], Free> recent_ = MakeRecent();
+    std::wstring lower_;
+    std::vector<std::wstring> words_;
+    /// Lower-cased words that needed more than the quick look: index in the list, or -1.
+    std::unordered_map<std::wstring, std::int64_t, Hash, std::equal_to<>> verdicts_;
+    std::size_t known_verdicts_ = 0;
+};
+
+}  // namespace wordhawk

@@ -1,0 +1,278 @@
+#include "engine/document/rtf_text.h"
+
+#include "engine/document/rtf_vocabulary.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+namespace wordhawk {
+namespace {
+
+constexpr std::size_t kDeepestGroup = 1000;
+constexpr std::size_t kMostFonts = 10000;
+constexpr std::size_t kLongestControlWord = 32;
+
+int HexDigit(char c) {
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+}
+
+bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+class Reader {
+  public:
+    explicit Reader(std::string_view rtf) : rtf_(rtf) {}
+
+    std::wstring Read() {
+        while (at_ < rtf_.size() && !finished_) Step();
+        return std::move(text_);
+    }
+
+  private:
+    /// What a group inherits from the one around it and forgets at its end.
+    struct Group {
+        bool skip = false;  // holds no text of the document
+        bool hidden = false;
+        bool deleted = false;
+        bool fonts = false;        // the font table
+        bool either_form = false;  // \upr: an ANSI form, then the same in Unicode
+        bool separate = false;     // ends with a line break
+        const AnsiCodePage* page = &AnsiCodePage::Get(1252);
+        int skip_count = 1;  // of \u
+    };
+
+    void Step() {
+        const char c = rtf_[at_++];
+        switch (c) {
+            case '{': OpenGroup(); break;
+            case '}': CloseGroup(); break;
+            case '\\': Control(); break;
+            case '\r':
+            case '\n': break;
+            default: Byte(static_cast<unsigned char>(c)); break;
+        }
+    }
+
+    void OpenGroup() {
+        to_skip_ = 0;
+        starred_ = false;
+        if (outer_.size() >= kDeepestGroup) {
+            ++too_deep_;
+            return;
+        }
+        outer_.push_back(group_);
+        group_.separate = false;
+    }
+
+    void CloseGroup() {
+        to_skip_ = 0;
+        starred_ = false;
+        if (too_deep_ > 0) {
+            --too_deep_;
+            return;
+        }
+        if (group_.separate && !group_.skip) Append(L'\n');
+        if (outer_.empty()) {
+            finished_ = true;
+            return;
+        }
+        group_ = outer_.back();
+        outer_.pop_back();
+        finished_ = outer_.empty();
+    }
+
+    /// What follows a backslash: a control word, or a control symbol of one character.
+    void Control() {
+        if (at_ >= rtf_.size()) return;
+        if (IsLetter(rtf_[at_])) {
+            ControlWord();
+            return;
+        }
+        const char symbol = rtf_[at_++];
+        starred_ = symbol == '*';
+        if (starred_) return;
+        if (symbol == '\'') {
+            HexByte();
+            return;
+        }
+        if (SkipOne()) return;
+        switch (symbol) {
+            case '\\':
+            case '{':
+            case '}': Append(symbol); break;
+            case '~': Append(0x00A0); break;
+            case '_': Append(L'-'); break;  // a hyphen that holds its line: splits words like any
+            case '\t': Append(L'\t'); break;
+            case '\r':
+            case '\n': Append(L'\n'); break;
+            default: break;  // "\-" among them: a place where a word may be cut, no character of it
+        }
+    }
+
+    void HexByte() {
+        int value = 0;
+        int digits = 0;
+        while (digits < 2 && at_ < rtf_.size() && HexDigit(rtf_[at_]) >= 0) {
+            value = value * 16 + HexDigit(rtf_[at_++]);
+            ++digits;
+        }
+        if (digits == 2) Byte(static_cast<unsigned char>(value));
+    }
+
+    void ControlWord() {
+        const std::size_t start = at_;
+        while (at_ < rtf_.size() && IsLetter(rtf_[at_]) && at_ - start < kLongestControlWord) ++at_;
+        const std::string_view word = rtf_.substr(start, at_ - start);
+        bool negative = false;
+        bool has_number = false;
+        std::int64_t number = 0;
+        if (at_ + 1 < rtf_.size() && rtf_[at_] == '-' && IsDigit(rtf_[at_ + 1])) {
+            negative = true;
+            ++at_;
+        }
+        while (at_ < rtf_.size() && IsDigit(rtf_[at_])) {
+            has_number = true;
+            number = std::min<std::int64_t>(number * 10 + (rtf_[at_++] - '0'), INT32_MAX);
+        }
+        if (at_ < rtf_.size() && rtf_[at_] == ' ') ++at_;
+        const int value = static_cast<int>(negative ? -number : number);
+
+        const bool starred = starred_;
+        starred_ = false;
+        if (word == "bin") {  // raw bytes, to be passed over whatever they hold
+            at_ += std::min(rtf_.size() - at_, static_cast<std::size_t>(std::max(value, 0)));
+            SkipOne();
+            return;
+        }
+        if (SkipOne()) return;
+        if (starred) {
+            Starred(word);
+        } else if (!Destination(word)) {
+            Formatting(word, value, has_number);
+        }
+    }
+
+    /// A destination that readers who do not know it are to pass over.
+    void Starred(std::string_view word) {
+        if (word == "ud" && group_.either_form) {
+            group_.skip = false;
+            group_.either_form = false;
+        } else if (word != "shpinst") {
+            group_.skip = true;
+        }
+    }
+
+    bool Destination(std::string_view word) {
+        if (word == "fonttbl") {
+            group_.fonts = true;
+            group_.skip = true;
+        } else if (word == "upr") {
+            group_.either_form = !group_.skip;
+            group_.skip = true;
+        } else if (IsSeparateDestination(word)) {
+            if (!group_.skip) Append(L'\n');
+            group_.separate = true;
+        } else if (IsTextlessDestination(word)) {
+            group_.skip = true;
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    void Formatting(std::string_view word, int value, bool has_number) {
+        const bool on = !has_number || value != 0;
+        if (word == "u") {
+            Unicode(value);
+        } else if (word == "uc") {
+            group_.skip_count = std::clamp(value, 0, 1000);
+        } else if (word == "v") {
+            group_.hidden = on;
+        } else if (word == "deleted") {
+            group_.deleted = on;
+        } else if (word == "plain") {
+            group_.hidden = false;
+            group_.page = PageOfFont(default_font_);
+        } else if (word == "f") {
+            font_in_table_ = value;
+            if (!group_.fonts) group_.page = PageOfFont(value);
+        } else if (word == "fcharset") {
+            if (group_.fonts && charset_of_font_.size() < kMostFonts) {
+                charset_of_font_[font_in_table_] = value;
+            }
+        } else if (word == "deff") {
+            default_font_ = value;
+        } else if (word == "ansicpg") {
+            document_page_ = value;
+            group_.page = &AnsiCodePage::Get(value);
+        } else {
+            if (const wchar_t symbol = CharacterOfWord(word)) Append(symbol);
+        }
+    }
+
+    const AnsiCodePage* PageOfFont(int font) const {
+        const auto found = charset_of_font_.find(font);
+        return &AnsiCodePage::Get(found == charset_of_font_.end()
+                                      ? document_page_
+                                      : PageOfCharset(found->second, document_page_));
+    }
+
+    /// A UTF-16 unit as a signed number (some writers give the whole code point), followed by
+    /// its form for readers without Unicode.
+    void Unicode(int value) {
+        if (value < 0) value += 65536;
+        if (value > 0xFFFF && value <= 0x10FFFF) {
+            Append(static_cast<wchar_t>(0xD800 + ((value - 0x10000) >> 10)));
+            Append(static_cast<wchar_t>(0xDC00 + (value & 0x3FF)));
+        } else if (value >= 0 && value <= 0xFFFF) {
+            Append(static_cast<wchar_t>(value));
+        }
+        to_skip_ = group_.skip_count;
+    }
+
+    /// Whether the character just read belongs to the form for readers without Unicode.
+    bool SkipOne() {
+        if (to_skip_ == 0) return false;
+        --to_skip_;
+        return true;
+    }
+
+    void Byte(unsigned char byte) {
+        starred_ = false;
+        if (SkipOne() || group_.skip || group_.hidden || group_.deleted) return;
+        text_.push_back(byte < 0x80 ? static_cast<wchar_t>(byte) : group_.page->ToUnicode(byte));
+    }
+
+    void Append(wchar_t character) {
+        if (!group_.skip && !group_.hidden && !group_.deleted) text_.push_back(character);
+    }
+
+    std::string_view rtf_;
+    std::size_t at_ = 0;
+    std::wstring text_;
+    Group group_;
+    std::vector<Group> outer_;
+    std::size_t too_deep_ = 0;
+    bool finished_ = false;
+    bool starred_ = false;
+    int to_skip_ = 0;
+    int document_page_ = 1252;
+    int default_font_ = 0;
+    int font_in_table_ = 0;
+    std::unordered_map<int, int> charset_of_font_;
+};
+
+}  // namespace
+
+bool LooksLikeRtf(std::string_view bytes) { return bytes.starts_with("{\\rtf"); }
+
+std::wstring RtfToText(std::string_view rtf) { return Reader(rtf).Read(); }
+
+}  // namespace wordhawk

@@ -1,0 +1,15 @@
+#include "ui/framework/message_loop.h"
+
+namespace wordhawk {
+
+int RunMessageLoop(Dialog& form) {
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (form.PreTranslate(message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+}  // namespace wordhawk

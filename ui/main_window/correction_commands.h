@@ -1,0 +1,81 @@
+#pragma once
+
+#include "engine/program.h"
+#include "engine/session/spell_session.h"
+#include "ui/desktop.h"
+#include "ui/dialogs/progress_window.h"
+#include "ui/framework/theme.h"
+#include "ui/main_window/new_spell_controls.h"
+#include "ui/main_window/status_line.h"
+#include "ui/main_window/suggestion_pane.h"
+
+#include <functional>
+
+namespace wordhawk {
+
+/// The correction commands as the buttons give them: each hands its job to the session and shows
+/// what came of it in the lists, labels and buttons.
+class CorrectionCommands {
+  public:
+    struct Parts {
+        Program& program;
+        Desktop& desktop;
+        NewSpellControls& controls;
+        SuggestionPane& suggestions;
+        StatusLine& status;
+        const Theme& theme;
+        /// Owner of boxes and of the progress window.
+        std::function<HWND()> window;
+        /// A command lets messages through from now on; null: it is over.
+        std::function<void(ProgressWindow*)> running;
+        /// The list was worked off: to be announced.
+        std::function<void(const SessionStep&)> finished;
+    };
+    explicit CorrectionCommands(Parts parts);
+
+    SpellSession session;
+    RecentChanges recent;
+
+    /// Takes over the words of a check; true when there is one to correct.
+    bool Begin(std::vector<std::wstring> words);
+    /// Empties the three lists, the change-to box and the word.
+    void Reset();
+
+    void Change() { Run(session.Change(parts_.controls.txtChgTo.Text())); }
+    void ChangeAll();
+    void Ignore() { Run(session.Ignore()); }
+    void IgnoreAll() { Run(session.IgnoreAll()); }
+    void Add(AddIndex index) { Run(session.Add(index)); }
+    void AddTo(const std::wstring& custom_name) { Run(session.AddTo(custom_name)); }
+    void AddAll(AddIndex index);
+    void UndoLastAdd();
+    void SelectWord(int index);
+    /// Copies the document, else the change-to box.
+    void CopyData();
+    void CopyWord();
+    /// Takes the selected text of the document into the change-to box.
+    void TakeWord();
+
+    void UpdateButtons();
+    void UpdateCounter();
+    /// The recent replacements in their box.
+    void ShowRecent();
+    /// Plays or shows the end of a check.
+    void Announce(CompletionNotice notice);
+    /// Says what went wrong with which file.
+    void ShowError(int text, const Error& error);
+    void PutOnClipboard(const std::wstring& text);
+
+  private:
+    void Run(const SessionStep& step);
+    void UpdateList(const SessionStep& step);
+    void ShowWord();
+    void ShowSuggestions();
+    void ShowNoWords();
+    void TellOfAdd(const SessionStep& step);
+    void TellScreenReader();
+
+    Parts parts_;
+};
+
+}  // namespace wordhawk

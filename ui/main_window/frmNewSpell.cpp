@@ -1,0 +1,349 @@
+#include "ui/main_window/frmNewSpell.h"
+
+#include "app/version.h"
+#include "dict/dictionary_store.h"
+#include "engine/check/check_pass.h"
+#include "engine/session/captions.h"
+#include "lang/apply_language.h"
+#include "lang/modLoadRes.h"
+#include "platform/modICCX.h"
+#include "platform/win32/win.h"
+#include "ui/framework/themed_drawing.h"
+#include "ui/main_window/main_captions.h"
+#include "ui/resource.h"
+#include "ui/texts.h"
+
+#include <commctrl.h>
+#include <richedit.h>
+
+#include <algorithm>
+
+namespace wordhawk {
+
+using modLoadRes::LoadResText;
+
+frmNewSpell::frmNewSpell(const Surroundings& surroundings)
+    : NewSpellControls(surroundings.desktop.clipboard, theme_),
+      program_(surroundings.program),
+      desktop_(surroundings.desktop),
+      shared_(surroundings.shared),
+      status_(*this, [this] { Form_Resize(); }),
+      suggestions_({*this, program_.dictionaries, program_.ui}),
+      commands_({program_, desktop_, *this, suggestions_, status_, theme_,
+                 [this] { return handle_; },
+                 [this](ProgressWindow* progress) { running_ = progress; },
+                 [this](const SessionStep& step) { Finished(step); }}),
+      files_({program_, desktop_, document, commands_, status_}),
+      menu_commands_({program_, desktop_, *this, menus_, commands_, suggestions_, status_}),
+      geometry_(*this, surroundings.placement) {}
+
+frmNewSpell::~frmNewSpell() {
+    if (shared_.instance == this) shared_.instance = nullptr;
+}
+
+Dialog::Look frmNewSpell::WantedLook() const {
+    Look look;
+    look.style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
+    look.extended_style = WS_EX_ACCEPTFILES | WS_EX_CONTROLPARENT;
+    look.class_name = kClassName;
+    look.icon_id = WORDHAWK_ICON;
+    return look;
+}
+
+bool frmNewSpell::Show() {
+    Form_Initialize();
+    if (!Create(nullptr)) return false;
+    geometry_.Restore(handle_, MeasureNow());
+    ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
+    rtbW.SetFocus();
+    if (program_.state.ProgramMode && files_.CommandFileIsPending()) {
+        // A large document takes its time: until then, a whole window and not the outline of one.
+        RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        cmdSpellcheck_Click();
+    }
+    return true;
+}
+
+void frmNewSpell::Form_Initialize() { modICCX::InitCommonControlsVB(modICCX::kAllClasses); }
+
+void frmNewSpell::OnInit() {
+    tips_.Create(handle_);
+    CreateAll(handle_, tips_);
+    ApplyFonts();
+    suggestions_.Attach();
+    drag_.Attach(*this, [this] { Form_Resize(); });
+    copy_data_mouse_.Install(cmdCopyData.Handle(),
+                             [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+                                 if (message != WM_RBUTTONDOWN) return {};
+                                 cmdCopyData_MouseDown();
+                                 return 0;
+                             });
+    SetWordPointer();
+    frames_.Attach(handle_);
+    document.on_renewed = [this](HWND control) {
+        frames_.AttachTo(control);
+        theme_.DecorateControl(control);
+    };
+    theme_.Decorate(handle_);
+    Form_Load();
+}
+
+void frmNewSpell::SetWordPointer() {
+    const auto pointer = static_cast<HCURSOR>(
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(WORDHAWK_COPY_CURSOR), IMAGE_CURSOR,
+                   0, 0, LR_DEFAULTSIZE | LR_SHARED));
+    if (pointer == nullptr) return;
+    word_pointer_.Install(lblNID.Handle(),
+                          [pointer](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+                              if (message != WM_SETCURSOR) return {};
+                              SetCursor(pointer);
+                              return TRUE;
+                          });
+}
+
+// Texts first, so that what is measured has its words; the document last.
+void frmNewSpell::Form_Load() {
+    ApplyCaptions();
+    if (!program_.state.ProgramMode) shared_.instance = this;
+    if (program_.state.ProgramMode && program_.settings.OpenWOptions != 0) cmdOptions_Click();
+    commands_.recent.LoadRecentChanges(program_.state.SettingsFile);
+    commands_.ShowRecent();
+    geometry_.Centre(handle_, MeasureNow());
+    suggestions_.ShowSliders();
+    menus_.mnuDiversity->SetChecked(program_.settings.ExtraDiversity != 0);
+    cmdSpellcheck.SetVisible(program_.state.ProgramMode);
+    cmdSpellcheck.SetEnabled(program_.state.ProgramMode);
+    cmdPreferences.SetVisible(program_.state.ProgramMode);
+    cmdPreferences.SetEnabled(program_.state.ProgramMode);
+    LoadSettings();
+    LOGFONTW font{};
+    GetObjectW(Font(), sizeof font, &font);
+    document.SetLook(font.lfFaceName, 20);
+    if (program_.state.ProgramMode && program_.state.CommandFile.empty() &&
+        program_.settings.CheckClip) {
+        files_.TakeClipboard();
+    }
+    files_.TellOfKept();
+    commands_.UpdateButtons();
+    ShowTitle();
+    loaded_ = true;
+    Form_Resize();
+}
+
+void frmNewSpell::LoadSettings() {
+    const Settings before = program_.settings;
+    program_.ReloadSettings();
+    // The sliders are saved only when the window closes.
+    program_.settings.ScoreValue = before.ScoreValue;
+    program_.settings.Diversity = before.Diversity;
+    program_.settings.ExtraDiversity = before.ExtraDiversity;
+    const Settings& settings = program_.settings;
+    lstSco.SetVisible(settings.ScoreBox);
+    lblDum[2].SetVisible(settings.ScoreBox);
+    for (Button* button : {&cmdOpen, &cmdSaveAs}) {
+        button->SetVisible(settings.OpenSave);
+        button->SetEnabled(settings.OpenSave);
+    }
+    menus_.CheckSearchMode(settings.SortBy);
+    ShowCustomDictionaries();
+    Form_Resize();
+}
+
+void frmNewSpell::ShowCustomDictionaries() {
+    cboDicts.Fill(program_.settings.CustomDictionaries);
+    cboDicts.Select(cboDicts.FindExact(program_.settings.CustomDic));
+    menus_.FillCustom(program_.settings.CustomDictionaries);
+}
+
+void frmNewSpell::ApplyCaptions() {
+    SetTextIds(*this, menus_);
+    ApplyLanguage(program_.state, *this);
+    SetComposedCaptions(program_.state, *this);
+    if (!loaded_) return;
+    // In another language the numbers stay what they are.
+    suggestions_.hsScore_Change();
+    suggestions_.ShowCount();
+    commands_.UpdateCounter();
+    Form_Resize();
+}
+
+std::wstring frmNewSpell::Caption() const {
+    std::wstring caption(static_cast<std::size_t>(GetWindowTextLengthW(handle_)) + 1, L'\0');
+    caption.resize(static_cast<std::size_t>(
+        GetWindowTextW(handle_, caption.data(), static_cast<int>(caption.size()))));
+    return caption;
+}
+
+void frmNewSpell::SetCaption(const std::wstring& caption) {
+    SetWindowTextW(handle_, caption.c_str());
+}
+
+std::vector<FormControl*> frmNewSpell::Controls() {
+    std::vector<FormControl*> controls = All();
+    const std::vector<FormControl*> items = menus_.All();
+    controls.insert(controls.end(), items.begin(), items.end());
+    return controls;
+}
+
+void frmNewSpell::ShowTitle() {
+    const std::wstring program = FromUtf8(WORDHAWK_TITLE);
+    SetCaption(files_.Title().empty() ? program : files_.Title() + L" - " + program);
+}
+
+// ---- checking ----
+
+void frmNewSpell::cmdSpellcheck_Click() {
+    if (!cmdSpellcheck.Enabled() || running_ != nullptr) return;
+    commands_.Reset();
+    status_.Clear();
+    if (files_.CommandFileIsPending() && !files_.LoadCommandFile()) return;
+    CheckDocument();
+}
+
+void frmNewSpell::CheckDocument() {
+    ShowTitle();
+    CheckResult result;
+    {
+        const Hourglass busy(program_.ui);
+        ProgressWindow progress(program_.state, theme_, handle_,
+                                ProgressWindow::Appear::WhenItTakesLong);
+        progress.Show(LoadResText(program_.state, text_id::kSpellingCheck));
+        running_ = &progress;
+        result = CheckText(document.Text(), program_.dictionaries,
+                           SplitRules::From(program_.state, program_.settings), progress);
+        running_ = nullptr;
+    }
+    const std::size_t count = result.words.size();
+    commands_.session.SetCompletionNotice(true);
+    const bool correcting = FindNextToStart(std::move(result.words));
+    const ProgramState& state = program_.state;
+    if (result.cancelled) {
+        status_.Say(LoadResText(state, text_id::kCheckCancelled));
+    } else if (ListFiles(state.LanguageDictFolder, L".dic").empty()) {
+        status_.Say(LoadResText(state, text_id::kNoDictionary));
+    } else {
+        status_.Say(Filled(LoadResText(state, count == 0   ? text_id::kNoUnknownWords
+                                              : count == 1 ? text_id::kOneUnknownWord
+                                                           : text_id::kUnknownWords),
+                           {std::to_wstring(count)}));
+    }
+    if (CloseIfAsked()) return;
+    if (!correcting && !result.cancelled && !document.Empty()) {
+        files_.SetClipboard();
+        commands_.Announce(commands_.session.Notice());
+    }
+    if (correcting) {
+        // From here on Enter means Change; in the document it would replace the selected word.
+        txtChgTo.SetFocus();
+        txtChgTo.SelectAll();
+    }
+    KeepFocus();
+}
+
+void frmNewSpell::cmdAddAll_Click(int index) {
+    commands_.AddAll(static_cast<AddIndex>(index));
+    CloseIfAsked();
+}
+
+bool frmNewSpell::CloseIfAsked() {
+    if (!close_when_done_) return false;
+    Unload();
+    return true;
+}
+
+void frmNewSpell::Finished(const SessionStep& step) {
+    if (txtChgTo.HasFocus()) rtbW.SetFocus();
+    files_.SetClipboard();
+    commands_.Announce(step.notice);
+    // The box of the announcement lets messages through, and one may have closed the window.
+    if (handle_ == nullptr) return;
+    if (step.close) tmrBye_.SetEnabled(handle_, true);
+    KeepFocus();
+}
+
+void frmNewSpell::cmdSuggestions_Click() {
+    const std::wstring text = txtChgTo.Text();
+    suggestions_.FillSuggestions(Trim(text), SuggestionPane::SkipListed::No,
+                                 program_.settings.SortBy);
+    commands_.UpdateButtons();
+}
+
+void frmNewSpell::cmdOpen_Click() {
+    if (!files_.Open(handle_)) return;
+    commands_.Reset();
+    CheckDocument();
+}
+
+void frmNewSpell::OnDropFiles(const std::vector<std::wstring>& paths) {
+    if (paths.empty() || running_ != nullptr || !files_.LoadDropped(paths.front())) return;
+    commands_.Reset();
+    CheckDocument();
+}
+
+void frmNewSpell::cmdOptions_Click() {
+    geometry_.ToggleOptions(handle_, MeasureNow());
+    KeepFocus();
+}
+
+void frmNewSpell::cmdPreferences_Click() {
+    // The preferences dialog belongs here.
+    LoadSettings();
+}
+
+void frmNewSpell::cboChgTo_Click() {
+    if (cboChgTo.Selected() >= 0) txtChgTo.SetText(cboChgTo.Item(cboChgTo.Selected()));
+}
+
+void frmNewSpell::cboDicts_Click() {
+    if (cboDicts.Selected() < 0) return;
+    program_.settings.CustomDic = cboDicts.Item(cboDicts.Selected());
+    modRegs::SaveSetting(program_.state, program_.settings, L"CustomDic");
+}
+
+// ---- closing ----
+
+void frmNewSpell::tmrBye_Timer() {
+    tmrBye_.SetEnabled(handle_, false);
+    Unload();
+}
+
+void frmNewSpell::Unload() {
+    if (handle_ == nullptr) return;
+    if (running_ != nullptr) {
+        // What runs still works on this window; it ends first.
+        close_when_done_ = true;
+        running_->Cancel();
+        return;
+    }
+    if (!Form_QueryUnload()) return;
+    Form_Unload();
+    Close(0);
+    if (on_unloaded) on_unloaded();
+}
+
+bool frmNewSpell::Form_QueryUnload() {
+    commands_.recent.SaveRecentChanges(program_.state.SettingsFile);
+    if (files_.SaveBack()) return true;
+    // Once, the window stays, so that the text can be saved elsewhere.
+    const bool failed_before = save_back_failed_;
+    save_back_failed_ = true;
+    return failed_before;
+}
+
+void frmNewSpell::Form_Unload() {
+    files_.KeepUnsaved();
+    geometry_.Save(handle_, MeasureNow());
+    suggestions_.SaveSliders();
+    menus_.mnuCustD.RemoveFrom(1);
+    modRegs::SaveCustomDictionaryList(program_.state, cboDicts.Texts());
+    if (shared_.instance == this) shared_.instance = nullptr;
+    word_pointer_.Remove();
+    ClearFormTexts(*this);
+}
+
+bool frmNewSpell::OnClose() {
+    Unload();
+    return true;
+}
+
+}  // namespace wordhawk

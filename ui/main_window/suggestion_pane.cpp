@@ -1,0 +1,239 @@
+#include "ui/main_window/suggestion_pane.h"
+
+#include "app/modRegs.h"
+#include "dict/custom_words.h"
+#include "dict/phonetic_key.h"
+#include "engine/session/captions.h"
+#include "engine/suggest/cLS.h"
+#include "engine/suggest/suggestion_case.h"
+#include "engine/suggest/suggestions.h"
+#include "lang/modLoadRes.h"
+#include "ui/texts.h"
+
+#include <algorithm>
+
+namespace wordhawk {
+
+void SuggestionPane::Attach() {
+    NewSpellControls& c = parts_.controls;
+    suggestions_subclass_.Install(
+        c.lstSug.Handle(),
+        [this](UINT message, WPARAM, LPARAM lparam) -> std::optional<LRESULT> {
+            if (message == WM_MOUSEMOVE) ShowTipUnderPointer(lparam);
+            return {};
+        },
+        [this, &c](UINT message) {
+            if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSug, c.lstSco);
+            // A press on the entry that is selected already changes no selection.
+            if (message == WM_LBUTTONDOWN) TakeSelected();
+        });
+    scores_subclass_.Install(c.lstSco.Handle(), {}, [this, &c](UINT message) {
+        if (message != WM_PAINT && message != WM_MOUSEMOVE) FollowScroll(c.lstSco, c.lstSug);
+    });
+}
+
+void SuggestionPane::ShowTipUnderPointer(LPARAM position) {
+    ListBox& list = parts_.controls.lstSug;
+    const POINT point{static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
+    const int row = list.At(point).value_or(-1);
+    if (row == tip_row_) return;
+    tip_row_ = row;
+    list.SetToolTipText(Explanation(row));
+}
+
+// A list box tells nobody when it scrolls, whatever made it scroll; so after every message.
+void SuggestionPane::FollowScroll(const ListBox& leader, ListBox& follower) {
+    if (following_) return;
+    following_ = true;
+    const int top = leader.Top();
+    if (follower.Top() != top && top < follower.Count()) follower.SetTop(top);
+    following_ = false;
+}
+
+void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_listed,
+                                     std::uint8_t search_mode) {
+    if (word.size() < 2) return;
+    const Hourglass busy(parts_.ui);
+    NewSpellControls& c = parts_.controls;
+    SuggestionRules rules = SuggestionRules::From(parts_.dictionaries.CurrentSettings());
+    rules.search_mode = search_mode;
+    const Suggestions found = FindSuggestions(parts_.dictionaries, word, rules);
+    searched_ = word;
+
+    following_ = true;
+    // A tip on the screen told of a suggestion for another word.
+    tip_row_ = -1;
+    c.lstSug.SetToolTipText({});
+    c.lstSug.Clear();
+    c.lstSco.Clear();
+    for (const Suggestion& suggestion : found.list) {
+        if (skip_listed == SkipListed::Yes && c.lstSug.FindExact(suggestion.word) >= 0) continue;
+        const int at = c.lstSug.Append(suggestion.word, suggestion.key);
+        if (c.lstSco.Insert(at, PaddedScore(suggestion.score)) < 0) break;
+    }
+    following_ = false;
+    if (found.best < 0) {
+        ShowNone();
+        // Its change handler disables the change commands.
+        c.txtChgTo.SetText({});
+        return;
+    }
+    const int best = c.lstSug.FindExact(found.list[static_cast<std::size_t>(found.best)].word);
+    Select(best);
+    c.lstSug.SetTop(std::max(best - 1, 0));
+    TakeSelected();
+    SetCount(c.lstSug.Count());
+}
+
+void SuggestionPane::ShowNone() {
+    parts_.controls.lstSug.Append(kNoSuggestions);
+    parts_.controls.lstSco.Append(kNoScore);
+    SetCount(0);
+}
+
+void SuggestionPane::Clear() {
+    NewSpellControls& c = parts_.controls;
+    c.lstSco.Clear();
+    c.lstSug.Clear();
+    searched_.clear();
+    SetCount(0);
+}
+
+void SuggestionPane::Select(int index) {
+    parts_.controls.lstSco.Select(index);
+    parts_.controls.lstSug.Select(index);
+}
+
+void SuggestionPane::SetCount(int count) {
+    parts_.controls.lblCnt.SetText(
+        captions::SuggestionCount(parts_.dictionaries.State(), static_cast<std::size_t>(count)));
+}
+
+void SuggestionPane::ShowCount() {
+    const int count = parts_.controls.lstSug.Count();
+    SetCount(count == 1 && IsPlaceholder(0) ? 0 : count);
+}
+
+bool SuggestionPane::IsPlaceholder(int index) const {
+    return parts_.controls.lstSug.Item(index) == kNoSuggestions;
+}
+
+std::wstring SuggestionPane::PaddedScore(std::int32_t percent) const {
+    const HWND list = parts_.controls.lstSco.Handle();
+    const HDC device = GetDC(list);
+    const HGDIOBJ before =
+        SelectObject(device, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
+    std::wstring padded =
+        captions::PadScoreText(captions::ScoreText(percent), [device](std::wstring_view text) {
+            SIZE size{};
+            GetTextExtentPoint32W(device, text.data(), static_cast<int>(text.size()), &size);
+            return static_cast<int>(size.cx);
+        });
+    SelectObject(device, before);
+    ReleaseDC(list, device);
+    return padded;
+}
+
+std::wstring SuggestionPane::SelectedSuggestion() const {
+    const int index = parts_.controls.lstSug.Selected();
+    return IsPlaceholder(index) ? std::wstring() : parts_.controls.lstSug.Item(index);
+}
+
+void SuggestionPane::TakeSelected() {
+    NewSpellControls& c = parts_.controls;
+    const int index = c.lstSug.Selected();
+    if (index < 0) return;
+    const auto text = TakeSuggestion(c.lstSug.Item(index), c.document.SelectedText());
+    if (!text) return;
+    c.lstSco.Select(index);
+    c.txtChgTo.SetText(*text);
+}
+
+void SuggestionPane::Pick(int number) {
+    if (number < 1 || number > parts_.controls.lstSug.Count() || IsPlaceholder(number - 1)) return;
+    Select(number - 1);
+    TakeSelected();
+}
+
+void SuggestionPane::lstSco_Click() {
+    parts_.controls.lstSug.Select(parts_.controls.lstSco.Selected());
+}
+
+void SuggestionPane::lstSco_DblClick() {
+    lstSco_Click();
+    parts_.controls.lstSug.SetFocus();
+}
+
+Result<Path> SuggestionPane::RemoveSelectedWord() {
+    const Hourglass busy(parts_.ui);
+    NewSpellControls& c = parts_.controls;
+    const int index = c.lstSug.Selected();
+    if (index < 0 || IsPlaceholder(index)) return Path();
+    const std::wstring word = c.lstSug.Item(index);
+    const Result<Path> file = RemoveWordFromDictionaries(parts_.dictionaries, word);
+    if (!file) return file;
+    if (!file->empty()) parts_.dictionaries.ReloadFile(*file);
+    c.lstSug.RemoveAt(index);
+    c.lstSco.RemoveAt(index);
+    if (c.lstSug.Count() == 0) {
+        ShowNone();
+    } else {
+        SetCount(c.lstSug.Count());
+    }
+    return file;
+}
+
+std::wstring SuggestionPane::WholeList() const {
+    std::wstring lines;
+    for (int i = 0; i < parts_.controls.lstSug.Count(); ++i) {
+        lines += parts_.controls.lstSug.Item(i) + L"\r\n";
+    }
+    return lines;
+}
+
+void SuggestionPane::ShowSliders() {
+    const Settings& settings = parts_.dictionaries.CurrentSettings();
+    parts_.controls.hsScore.SetValue(settings.ScoreValue);
+    parts_.controls.hsdiversity.SetValue(settings.Diversity);
+    hsScore_Change();
+    hsdiversity_Change();
+}
+
+void SuggestionPane::hsScore_Change() {
+    const int value = parts_.controls.hsScore.Value();
+    parts_.controls.lblScore.SetText(captions::ScoreRange(parts_.dictionaries.State(), value));
+    parts_.dictionaries.CurrentSettings().ScoreValue = value;
+}
+
+void SuggestionPane::hsdiversity_Change() {
+    const int value = parts_.controls.hsdiversity.Value();
+    parts_.controls.lbldiversity.SetText(captions::Diversity(value));
+    parts_.dictionaries.CurrentSettings().Diversity = value;
+}
+
+void SuggestionPane::SaveSliders() {
+    const ProgramState& state = parts_.dictionaries.State();
+    const Settings& settings = parts_.dictionaries.CurrentSettings();
+    for (const std::wstring_view key : {L"ScoreValue", L"Diversity", L"ExtraDiversity"}) {
+        modRegs::SaveSetting(state, settings, key);
+    }
+}
+
+std::wstring SuggestionPane::Explanation(int row) const {
+    const NewSpellControls& c = parts_.controls;
+    if (row < 0 || row >= c.lstSug.Count() || IsPlaceholder(row) || searched_.empty()) return {};
+    const Settings& settings = parts_.dictionaries.CurrentSettings();
+    const std::wstring word = c.lstSug.Item(row);
+    const auto distance = cLS().LevenshteinDistance(
+        searched_, word,
+        settings.ExtraDiversity != 0 ? Transposition::OneEdit : Transposition::NotCounted);
+    const std::wstring padded = c.lstSco.Item(row);
+    const std::wstring_view score = Trim(padded);
+    const std::wstring key = std::to_wstring(c.lstSug.Data(row));
+    const std::wstring own_key =
+        std::to_wstring(GetPhoneticKey(Lower(searched_), parts_.dictionaries.Page()));
+    return Filled(modLoadRes::LoadResText(parts_.dictionaries.State(), text_id::kSuggestionTip),
+                  {std::to_wstring(distance), score.substr(0, score.find(L'%')), key, own_key});
+}
+
+}  // namespace wordhawk

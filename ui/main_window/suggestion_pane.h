@@ -1,0 +1,81 @@
+#pragma once
+
+#include "dict/dictionary_store.h"
+#include "platform/ui_services.h"
+#include "ui/framework/subclass.h"
+#include "ui/main_window/new_spell_controls.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace wordhawk {
+
+/// The suggestions and their scores, two lists that always show the same rows; the change-to box
+/// that a suggestion is taken into; and the sliders that steer the search.
+class SuggestionPane {
+  public:
+    struct Parts {
+        NewSpellControls& controls;
+        DictionaryStore& dictionaries;
+        UiServices& ui;
+    };
+    explicit SuggestionPane(const Parts& parts) : parts_(parts) {}
+
+    /// Once the controls are there.
+    void Attach();
+
+    enum class SkipListed { No, Yes };
+    /// Shows suggestions for a word and takes the best one. A word of one letter leaves all as it
+    /// was.
+    void FillSuggestions(std::wstring_view word, SkipListed skip_listed, std::uint8_t search_mode);
+    void Clear();
+    /// Writes the number of suggestions into its label, as the list is now.
+    void ShowCount();
+
+    /// Takes the selected suggestion into the change-to box, in the case of the document's word.
+    void TakeSelected();
+    /// The n-th suggestion, from 1, as a click on it.
+    void Pick(int number);
+
+    /// Removes the selected suggestion from the first dictionary that holds it, and from the lists.
+    /// Returns that dictionary's file; empty when none held it, an error when it cannot be written.
+    Result<Path> RemoveSelectedWord();
+    bool HasSelection() const { return parts_.controls.lstSug.Selected() >= 0; }
+    /// Empty when none is selected, or there are none.
+    std::wstring SelectedSuggestion() const;
+    /// The suggestions, a line each.
+    std::wstring WholeList() const;
+
+    /// Sliders: read from the settings at load, kept in them as they move, written at unload.
+    void ShowSliders();
+    void hsScore_Change();
+    void hsdiversity_Change();
+    void SaveSliders();
+
+    void lstSco_Click();
+    void lstSco_DblClick();
+
+    /// Why the suggestion of a row scored what it did, for its tool tip.
+    std::wstring Explanation(int row) const;
+    /// The word that the suggestions shown are for.
+
+  private:
+    void ShowNone();
+    void Select(int index);
+    void SetCount(int count);
+    void ShowTipUnderPointer(LPARAM position);
+    void FollowScroll(const ListBox& leader, ListBox& follower);
+    bool IsPlaceholder(int index) const;
+    std::wstring PaddedScore(std::int32_t percent) const;
+
+    Parts parts_;
+    Subclass suggestions_subclass_;
+    Subclass scores_subclass_;
+    bool following_ = false;
+    int tip_row_ = -1;
+    std::wstring searched_;
+};
+
+}  // namespace wordhawk
