@@ -3,6 +3,7 @@
 #include "dict/change_file.h"
 #include "dict/dictionary_names.h"
 #include "lang/modLoadRes.h"
+#include "lang/text_ids.h"
 
 #include <unordered_map>
 
@@ -15,10 +16,6 @@ using dictionary_edit::WithEntries;
 constexpr std::wstring_view kDefaultCustomName = L"CUSTOM.DIC";
 /// Shorter lists are done before a progress display could be read.
 constexpr std::size_t kFewestWordsWithProgress = 10;
-
-constexpr int kTextAdding = 108;
-constexpr int kTextPleaseWait = 186;
-constexpr int kTextWordsToDictionary = 234;
 
 /// Why nothing can be written to `target`, if so: its name comes from the settings.
 Result<void> CheckTarget(DictionaryStore& store, AddTarget target) {
@@ -46,9 +43,9 @@ class AddingDisplay {
           is_shown_(count >= kFewestWordsWithProgress) {
         using modLoadRes::LoadResText;
         if (!is_shown_) return;
-        progress_.Show(LoadResText(state, kTextPleaseWait, {}, L"..."));
-        progress_.SetCaption(LoadResText(state, kTextAdding, {}, L" " + count_ + L" ") +
-                             LoadResText(state, kTextWordsToDictionary));
+        progress_.Show(LoadResText(state, text_id::kPleaseWait, {}, L"..."));
+        progress_.SetCaption(LoadResText(state, text_id::kAdding, {}, L" " + count_ + L" ") +
+                             LoadResText(state, text_id::kWordsToDictionary));
         progress_.SetRange(count);
     }
     ~AddingDisplay() {

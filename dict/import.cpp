@@ -4,6 +4,7 @@
 #include "dict/dictionary_names.h"
 #include "dict/lines.h"
 #include "lang/modLoadRes.h"
+#include "lang/text_ids.h"
 
 #include <unordered_set>
 
@@ -12,12 +13,6 @@ namespace {
 
 constexpr int kFlagSkipMainWords = kFirstShownImportFlag;
 constexpr int kFlagSkipCustomWords = kFirstShownImportFlag + 1;
-
-constexpr int kTextChecking = 124;
-constexpr int kTextDictionaryIsEmpty = 142;
-constexpr int kTextImporting = 162;
-constexpr int kTextHoldsNoWords = 221;
-constexpr int kTextWords = 232;
 
 constexpr std::size_t kShortestWord = 2;
 
@@ -64,10 +59,10 @@ class ImportDisplay {
     ImportDisplay(const ProgramState& state, std::size_t lines, Progress& progress)
         : progress_(progress) {
         using modLoadRes::LoadResText;
-        progress_.Show(LoadResText(state, kTextImporting));
+        progress_.Show(LoadResText(state, text_id::kImporting));
         progress_.SetCaption(
-            LoadResText(state, kTextChecking, {}, L" (" + std::to_wstring(lines) + L") ") +
-            LoadResText(state, kTextWords, {}, L"..."));
+            LoadResText(state, text_id::kChecking, {}, L" (" + std::to_wstring(lines) + L") ") +
+            LoadResText(state, text_id::kWords, {}, L"..."));
         progress_.SetRange(lines);
     }
     ~ImportDisplay() { progress_.Hide(); }
@@ -94,8 +89,8 @@ Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& f
 
     const std::string bytes = ReadWholeFile(source).value_or(std::string());
     if (bytes.empty()) {
-        ui.ShowMessage(modLoadRes::LoadResText(state, kTextHoldsNoWords),
-                       modLoadRes::LoadResText(state, kTextDictionaryIsEmpty),
+        ui.ShowMessage(modLoadRes::LoadResText(state, text_id::kHoldsNoWords),
+                       modLoadRes::LoadResText(state, text_id::kDictionaryIsEmpty),
                        MessageIcon::Exclamation, MessageButtons::Ok);
         return 0;
     }

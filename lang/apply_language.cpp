@@ -2,7 +2,7 @@
 
 #include "lang/built_in_texts.h"
 #include "lang/modLoadRes.h"
-#include "lang/text_ids.h"
+#include "lang/whole_number.h"
 
 #include <algorithm>
 #include <array>

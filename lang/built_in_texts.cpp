@@ -10,7 +10,7 @@ struct BuiltIn {
     std::wstring_view text;
 };
 
-#define BUILT_IN_TEXT(id, text) {id, L"" text},
+#define BUILT_IN_TEXT(id, name, text) {id, L"" text},
 constexpr BuiltIn kTexts[] = {
 #include "lang/built_in_texts.inc"
 #include "lang/own_texts.inc"

@@ -4,8 +4,8 @@
 
 namespace wordhawk {
 
-/// The built-in English text of an id, empty when there is none. Ids 101 to 234 can be replaced by
-/// language files; ids from 1001 up are texts that language files do not carry.
+/// The built-in English text of an id (text_ids.h has their names), empty when there is none. A
+/// language file can replace each of them.
 std::wstring_view BuiltInText(int id);
 
 }  // namespace wordhawk

@@ -18,3 +18,23 @@ std::wstring LoadResText(const ProgramState& state, int id, std::wstring_view pr
 }
 
 }  // namespace wordhawk::modLoadRes
+
+namespace wordhawk {
+
+std::wstring Filled(std::wstring_view text, std::initializer_list<std::wstring_view> values) {
+    std::wstring result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool mark =
+            text[i] == L'%' && i + 1 < text.size() && text[i + 1] >= L'1' && text[i + 1] <= L'9';
+        const std::size_t which = mark ? static_cast<std::size_t>(text[i + 1] - L'1') : 0;
+        if (mark && which < values.size()) {
+            result += *(values.begin() + which);
+            ++i;
+        } else {
+            result += text[i];
+        }
+    }
+    return result;
+}
+
+}  // namespace wordhawk

@@ -2,6 +2,7 @@
 
 #include "app/program_state.h"
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -16,3 +17,10 @@ std::wstring LoadResText(const ProgramState& state, int id, std::wstring_view pr
                          std::wstring_view suffix = {});
 
 }  // namespace wordhawk::modLoadRes
+
+namespace wordhawk {
+
+/// `text` with %1, %2 ... replaced by the values in their order.
+std::wstring Filled(std::wstring_view text, std::initializer_list<std::wstring_view> values);
+
+}  // namespace wordhawk

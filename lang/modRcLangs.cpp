@@ -3,7 +3,7 @@
 #include "app/modRegs.h"
 #include "lang/modLoadRes.h"
 #include "lang/modRegionLocales.h"
-#include "lang/text_ids.h"
+#include "lang/whole_number.h"
 #include "platform/modSect.h"
 
 namespace wordhawk::modRcLangs {

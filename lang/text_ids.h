@@ -1,13 +1,12 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-#include <string_view>
+/// The number of every text, by name: one constant for each line of the two tables. A language file
+/// may hold any of them.
+namespace wordhawk::text_id {
 
-namespace wordhawk {
+#define BUILT_IN_TEXT(id, name, text) inline constexpr int name = id;
+#include "lang/built_in_texts.inc"
+#include "lang/own_texts.inc"
+#undef BUILT_IN_TEXT
 
-/// The whole decimal number that `text` is, blanks and a sign allowed; nothing for any other text
-/// and for a number outside 32 bits. Tells ids and locale numbers from other texts.
-std::optional<std::int32_t> WholeNumber(std::wstring_view text);
-
-}  // namespace wordhawk
+}  // namespace wordhawk::text_id

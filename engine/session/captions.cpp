@@ -1,23 +1,12 @@
 #include "engine/session/captions.h"
 
 #include "lang/modLoadRes.h"
+#include "lang/text_ids.h"
 
 namespace wordhawk::captions {
 namespace {
 
 using modLoadRes::LoadResText;
-
-constexpr int kTextCustomWordsGo = 102;
-constexpr int kTextMainWordsStay = 103;
-constexpr int kTextAddToMain = 107;
-constexpr int kTextAlternate = 110;
-constexpr int kTextDoYouWant = 150;
-constexpr int kTextMatch = 167;
-constexpr int kTextNotFound = 175;
-constexpr int kTextPleaseConfirm = 185;
-constexpr int kTextResult = 196;
-constexpr int kTextSuggestion = 212;
-constexpr int kTextSuggestions = 213;
 
 constexpr std::wstring_view kParagraph = L"\r\n\r\n";
 
@@ -26,21 +15,22 @@ constexpr std::wstring_view kParagraph = L"\r\n\r\n";
 std::wstring NotFound(std::size_t count) { return std::to_wstring(count) + L" - Not Found"; }
 
 std::wstring NothingFoundYet(const ProgramState& state) {
-    return LoadResText(state, kTextNotFound, L"0 - ");
+    return LoadResText(state, text_id::kNotFound, L"0 - ");
 }
 
 std::wstring SuggestionCount(const ProgramState& state, std::size_t count) {
-    return LoadResText(state, count == 1 ? kTextSuggestion : kTextSuggestions,
+    return LoadResText(state,
+                       count == 1 ? text_id::kSuggestionCaption : text_id::kSuggestionsCaption,
                        std::to_wstring(count) + L" - ", L":");
 }
 
 std::wstring NoSuggestionsYet(const ProgramState& state) {
-    return LoadResText(state, kTextSuggestions, L"0 - ");
+    return LoadResText(state, text_id::kSuggestionsCaption, L"0 - ");
 }
 
 std::wstring ScoreRange(const ProgramState& state, int value) {
-    if (value == 100) return LoadResText(state, kTextMatch, L"100% ");
-    return LoadResText(state, kTextMatch, ScoreText(value) + L" - 100% ");
+    if (value == 100) return LoadResText(state, text_id::kMatch, L"100% ");
+    return LoadResText(state, text_id::kMatch, ScoreText(value) + L" - 100% ");
 }
 
 std::wstring Diversity(int value) {
@@ -62,15 +52,17 @@ std::wstring PadScoreText(std::wstring_view text,
 }
 
 std::wstring MainAddQuestion(const ProgramState& state) {
-    std::wstring question = LoadResText(state, kTextPleaseConfirm);
-    question += LoadResText(state, kTextResult, kParagraph, L":");
-    question += LoadResText(state, kTextMainWordsStay, std::wstring(kParagraph) + L"  ");
-    question += LoadResText(state, kTextAlternate, kParagraph, L":");
-    question += LoadResText(state, kTextCustomWordsGo, kParagraph);
-    question += LoadResText(state, kTextDoYouWant, kParagraph);
+    std::wstring question = LoadResText(state, text_id::kConfirmMainAdd);
+    question += LoadResText(state, text_id::kResult, kParagraph, L":");
+    question += LoadResText(state, text_id::kMainWordsStay, std::wstring(kParagraph) + L"  ");
+    question += LoadResText(state, text_id::kAlternate, kParagraph, L":");
+    question += LoadResText(state, text_id::kCustomWordsGo, kParagraph);
+    question += LoadResText(state, text_id::kAddToMainQuestion, kParagraph);
     return question;
 }
 
-std::wstring MainAddTitle(const ProgramState& state) { return LoadResText(state, kTextAddToMain); }
+std::wstring MainAddTitle(const ProgramState& state) {
+    return LoadResText(state, text_id::kAddToMainTitle);
+}
 
 }  // namespace wordhawk::captions

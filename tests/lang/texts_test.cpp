@@ -1,7 +1,7 @@
 #include "lang/built_in_texts.h"
 #include "lang/modLoadRes.h"
 #include "lang/modRegionLocales.h"
-#include "lang/text_ids.h"
+#include "lang/whole_number.h"
 #include "tests/support/temp_dir.h"
 
 #include <gtest/gtest.h>

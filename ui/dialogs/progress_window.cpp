@@ -1,8 +1,8 @@
 #include "ui/dialogs/progress_window.h"
 
 #include "lang/modLoadRes.h"
+#include "lang/text_ids.h"
 #include "ui/framework/layout.h"
-#include "ui/texts.h"
 
 #include <commctrl.h>
 

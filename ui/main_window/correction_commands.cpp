@@ -5,7 +5,7 @@
 #include "engine/session/captions.h"
 #include "engine/suggest/suggestion_case.h"
 #include "lang/modLoadRes.h"
-#include "ui/texts.h"
+#include "lang/text_ids.h"
 
 #include <algorithm>
 

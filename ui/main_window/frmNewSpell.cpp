@@ -6,12 +6,12 @@
 #include "engine/session/captions.h"
 #include "lang/apply_language.h"
 #include "lang/modLoadRes.h"
+#include "lang/text_ids.h"
 #include "platform/modICCX.h"
 #include "platform/win32/win.h"
 #include "ui/framework/themed_drawing.h"
 #include "ui/main_window/main_captions.h"
 #include "ui/resource.h"
-#include "ui/texts.h"
 
 #include <commctrl.h>
 #include <richedit.h>

@@ -2,7 +2,7 @@
 
 #include "engine/session/captions.h"
 #include "lang/modLoadRes.h"
-#include "ui/texts.h"
+#include "lang/text_ids.h"
 
 namespace wordhawk {
 

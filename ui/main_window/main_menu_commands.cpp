@@ -2,7 +2,7 @@
 
 #include "app/modRegs.h"
 #include "lang/modLoadRes.h"
-#include "ui/texts.h"
+#include "lang/text_ids.h"
 
 #include <array>
 

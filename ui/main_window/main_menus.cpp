@@ -1,6 +1,6 @@
 #include "ui/main_window/main_menus.h"
 
-#include "ui/texts.h"
+#include "lang/text_ids.h"
 
 namespace wordhawk {
 namespace {

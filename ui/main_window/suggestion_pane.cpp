@@ -8,7 +8,7 @@
 #include "engine/suggest/suggestion_case.h"
 #include "engine/suggest/suggestions.h"
 #include "lang/modLoadRes.h"
-#include "ui/texts.h"
+#include "lang/text_ids.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "lang/text_ids.h"
+#include "lang/whole_number.h"
 
 #include "platform/text.h"
 
