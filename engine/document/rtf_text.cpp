@@ -1,11 +1,10 @@
 #include "engine/document/rtf_text.h"
 
+#include "engine/document/rtf_lexer.h"
 #include "engine/document/rtf_vocabulary.h"
 #include "platform/text.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
@@ -14,24 +13,13 @@ namespace {
 
 constexpr std::size_t kDeepestGroup = 1000;
 constexpr std::size_t kMostFonts = 10000;
-constexpr std::size_t kLongestControlWord = 32;
-
-int HexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-}
-
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 class Reader {
   public:
-    explicit Reader(std::string_view rtf) : rtf_(rtf) {}
+    explicit Reader(std::string_view rtf) : lexer_(rtf) {}
 
     std::wstring Read() {
-        while (at_ < rtf_.size() && !finished_) Step();
+        while (!finished_) Take(lexer_.Next());
         return std::move(text_);
     }
 
@@ -48,15 +36,15 @@ class Reader {
         int skip_count = 1;  // of \u
     };
 
-    void Step() {
-        const char c = rtf_[at_++];
-        switch (c) {
-            case '{': OpenGroup(); break;
-            case '}': CloseGroup(); break;
-            case '\\': Control(); break;
-            case '\r':
-            case '\n': break;
-            default: Byte(static_cast<unsigned char>(c)); break;
+    void Take(const RtfToken& token) {
+        switch (token.kind) {
+            case RtfToken::Kind::Open: OpenGroup(); break;
+            case RtfToken::Kind::Close: CloseGroup(); break;
+            case RtfToken::Kind::Word: ControlWord(token); break;
+            case RtfToken::Kind::Symbol: Symbol(token.byte); break;
+            case RtfToken::Kind::Hex: Bytes({&token.byte, 1}); break;
+            case RtfToken::Kind::Text: Bytes(token.text); break;
+            case RtfToken::Kind::End: finished_ = true; break;
         }
     }
 
@@ -88,20 +76,9 @@ class Reader {
         finished_ = outer_.empty();
     }
 
-    /// What follows a backslash: a control word, or a control symbol of one character.
-    void Control() {
-        if (at_ >= rtf_.size()) return;
-        if (IsLetter(rtf_[at_])) {
-            ControlWord();
-            return;
-        }
-        const char symbol = rtf_[at_++];
+    void Symbol(char symbol) {
         starred_ = symbol == '*';
         if (starred_) return;
-        if (symbol == '\'') {
-            HexByte();
-            return;
-        }
         if (SkipOne()) return;
         switch (symbol) {
             case '\\':
@@ -116,46 +93,14 @@ class Reader {
         }
     }
 
-    void HexByte() {
-        int value = 0;
-        int digits = 0;
-        while (digits < 2 && at_ < rtf_.size() && HexDigit(rtf_[at_]) >= 0) {
-            value = value * 16 + HexDigit(rtf_[at_++]);
-            ++digits;
-        }
-        if (digits == 2) Byte(static_cast<unsigned char>(value));
-    }
-
-    void ControlWord() {
-        const std::size_t start = at_;
-        while (at_ < rtf_.size() && IsLetter(rtf_[at_]) && at_ - start < kLongestControlWord) ++at_;
-        const std::string_view word = rtf_.substr(start, at_ - start);
-        bool negative = false;
-        bool has_number = false;
-        std::int64_t number = 0;
-        if (at_ + 1 < rtf_.size() && rtf_[at_] == '-' && IsDigit(rtf_[at_ + 1])) {
-            negative = true;
-            ++at_;
-        }
-        while (at_ < rtf_.size() && IsDigit(rtf_[at_])) {
-            has_number = true;
-            number = std::min<std::int64_t>(number * 10 + (rtf_[at_++] - '0'), INT32_MAX);
-        }
-        if (at_ < rtf_.size() && rtf_[at_] == ' ') ++at_;
-        const int value = static_cast<int>(negative ? -number : number);
-
+    void ControlWord(const RtfToken& token) {
         const bool starred = starred_;
         starred_ = false;
-        if (word == "bin") {  // raw bytes, to be passed over whatever they hold
-            at_ += std::min(rtf_.size() - at_, static_cast<std::size_t>(std::max(value, 0)));
-            SkipOne();
-            return;
-        }
-        if (SkipOne()) return;
+        if (SkipOne() || token.text == "bin") return;
         if (starred) {
-            Starred(word);
-        } else if (!Destination(word)) {
-            Formatting(word, value, has_number);
+            Starred(token.text);
+        } else if (!Destination(token.text)) {
+            Formatting(token.text, token.number, token.has_number);
         }
     }
 
@@ -244,18 +189,24 @@ class Reader {
         return true;
     }
 
-    void Byte(unsigned char byte) {
+    void Bytes(std::string_view bytes) {
         starred_ = false;
-        if (SkipOne() || group_.skip || group_.hidden || group_.deleted) return;
-        text_.push_back(byte < 0x80 ? static_cast<wchar_t>(byte) : group_.page->ToUnicode(byte));
+        const std::size_t skipped = std::min(bytes.size(), static_cast<std::size_t>(to_skip_));
+        to_skip_ -= static_cast<int>(skipped);
+        bytes.remove_prefix(skipped);
+        if (group_.skip || group_.hidden || group_.deleted) return;
+        for (const char c : bytes) {
+            const auto byte = static_cast<unsigned char>(c);
+            text_.push_back(byte < 0x80 ? static_cast<wchar_t>(byte)
+                                        : group_.page->ToUnicode(byte));
+        }
     }
 
     void Append(wchar_t character) {
         if (!group_.skip && !group_.hidden && !group_.deleted) text_.push_back(character);
     }
 
-    std::string_view rtf_;
-    std::size_t at_ = 0;
+    RtfLexer lexer_;
     std::wstring text_;
     Group group_;
     std::vector<Group> outer_;
