@@ -1,6 +1,7 @@
 #include "ui/desktop.h"
 
 #include "platform/modCDlg.h"
+#include "ui/framework/held_keys.h"
 
 namespace wordhawk {
 namespace {
@@ -19,6 +20,7 @@ std::optional<FileChoice> SystemFileDialogs::AskOpen(HWND owner, const std::wstr
                                                      const std::wstring& filters) {
     std::wstring name;
     std::wstring file_title;
+    const IgnoreHeldKeys guard;
     if (!modCDlg::ShowOpen(MakeRequest(owner, title, filters), name, file_title))
         return std::nullopt;
     return FileChoice{PathFromText(name), DocumentKind::Plain};
@@ -33,6 +35,7 @@ std::optional<FileChoice> SystemFileDialogs::AskSave(HWND owner, const std::wstr
     int filter = request.filter_index;
     std::wstring name;
     std::wstring file_title;
+    const IgnoreHeldKeys guard;
     if (!modCDlg::ShowSave(request, L"txt", filter, name, file_title)) return std::nullopt;
     return FileChoice{PathFromText(name), filter == 2 ? DocumentKind::Rich : DocumentKind::Plain};
 }

@@ -1,5 +1,7 @@
 #include "ui/ui_services_win32.h"
 
+#include "ui/framework/held_keys.h"
+
 #include <string>
 
 namespace wordhawk {
@@ -29,6 +31,7 @@ Answer UiServicesWin32::ShowMessage(std::wstring_view text, std::wstring_view ti
     const HWND form = owner ? owner() : nullptr;
     // A dialog of the form's, when one is open.
     const HWND over = form != nullptr ? GetLastActivePopup(form) : GetActiveWindow();
+    const IgnoreHeldKeys guard;
     const int pressed = MessageBoxW(over, std::wstring(text).c_str(), std::wstring(title).c_str(),
                                     Style(icon, buttons));
     return pressed == IDYES ? Answer::Yes : pressed == IDNO ? Answer::No : Answer::Ok;

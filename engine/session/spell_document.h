@@ -31,6 +31,11 @@ class SpellDocument {
     virtual TextRange Selection() = 0;
     /// Selects and scrolls the stretch into view; length 0 places the caret.
     virtual void Select(TextRange range) = 0;
+    /// Leaves the caret where the selection ends.
+    void CollapseSelection() {
+        const TextRange range = Selection();
+        if (range.length > 0) Select({range.start + range.length, 0});
+    }
     /// Replaces the selection as one step of undo; the caret ends up behind the new text.
     virtual void ReplaceSelection(std::wstring_view text) = 0;
     /// Replaces the stretches of `length` units at `starts` (offsets in the text as it is now,

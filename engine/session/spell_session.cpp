@@ -171,6 +171,8 @@ SessionStep SpellSession::ResetFinished() {
     current_.clear();
     current_index_.reset();
     occurrence_start_ = search_position_ = kNotFound;
+    // The next key would replace what is selected.
+    parts_.document.CollapseSelection();
     SessionStep step;
     step.kind = SessionStep::Kind::Finished;
     step.notice = Notice();

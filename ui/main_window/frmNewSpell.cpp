@@ -55,8 +55,9 @@ bool frmNewSpell::Show() {
     if (!Create(nullptr)) return false;
     geometry_.Restore(handle_, MeasureNow());
     ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
-    rtbW.SetFocus();
-    if (program_.state.ProgramMode && files_.CommandFileIsPending()) {
+    const bool check_at_once = program_.state.ProgramMode && files_.CommandFileIsPending();
+    MoveFocus(check_at_once ? static_cast<const Control&>(lstNID) : rtbW);
+    if (check_at_once) {
         // A large document takes its time: until then, a whole window and not the outline of one.
         RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
         cmdSpellcheck_Click();
@@ -196,13 +197,17 @@ void frmNewSpell::cmdSpellcheck_Click() {
     if (!cmdSpellcheck.Enabled() || running_ != nullptr) return;
     commands_.Reset();
     status_.Clear();
-    if (files_.CommandFileIsPending() && !files_.LoadCommandFile()) return;
+    if (files_.CommandFileIsPending()) {
+        if (!files_.LoadCommandFile()) return;
+        LeaveDocument();
+    }
     CheckDocument();
 }
 
 void frmNewSpell::CheckDocument() {
     ShowTitle();
     CheckResult result;
+    const HWND focus_before = GetFocus();
     {
         const Hourglass busy(program_.ui);
         ProgressWindow progress(program_.state, theme_, handle_,
@@ -228,14 +233,18 @@ void frmNewSpell::CheckDocument() {
                            {std::to_wstring(count)}));
     }
     if (CloseIfAsked()) return;
+    if (correcting) {
+        // From here on Enter means Change; in the document it would replace the selected word.
+        MoveFocus(txtChgTo);
+        txtChgTo.SelectAll();
+    } else {
+        // The check took the keyboard away; what was selected must not give way to the next key.
+        if (GetFocus() == nullptr && IsWindow(focus_before)) ::SetFocus(focus_before);
+        document.CollapseSelection();
+    }
     if (!correcting && !result.cancelled && !document.Empty()) {
         files_.SetClipboard();
         commands_.Announce(commands_.session.Notice());
-    }
-    if (correcting) {
-        // From here on Enter means Change; in the document it would replace the selected word.
-        txtChgTo.SetFocus();
-        txtChgTo.SelectAll();
     }
     KeepFocus();
 }
@@ -252,7 +261,8 @@ bool frmNewSpell::CloseIfAsked() {
 }
 
 void frmNewSpell::Finished(const SessionStep& step) {
-    if (txtChgTo.HasFocus()) rtbW.SetFocus();
+    // Whoever presses one key too many does so in an empty list.
+    MoveFocus(lstNID);
     files_.SetClipboard();
     commands_.Announce(step.notice);
     // The box of the announcement lets messages through, and one may have closed the window.
@@ -270,12 +280,14 @@ void frmNewSpell::cmdSuggestions_Click() {
 
 void frmNewSpell::cmdOpen_Click() {
     if (!files_.Open(handle_)) return;
+    LeaveDocument();
     commands_.Reset();
     CheckDocument();
 }
 
 void frmNewSpell::OnDropFiles(const std::vector<std::wstring>& paths) {
     if (paths.empty() || running_ != nullptr || !files_.LoadDropped(paths.front())) return;
+    LeaveDocument();
     commands_.Reset();
     CheckDocument();
 }

@@ -6,6 +6,7 @@
 #include "ui/dialogs/progress_window.h"
 #include "ui/framework/Dialog.h"
 #include "ui/framework/dark_frames.h"
+#include "ui/framework/held_keys.h"
 #include "ui/framework/placement_store.h"
 #include "ui/framework/theme.h"
 #include "ui/main_window/button_drag.h"
@@ -147,6 +148,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     bool OnButton(int id);
     bool OnControl(const ControlEvent& event);
     bool OnEnter();
+    bool OnCommandKey(UINT key);
     void ShowMenu(PopupMenu& menu, const ContextRequest& request);
     void SelectSuggestionUnder(POINT screen);
 
@@ -157,6 +159,8 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void ShowCustomDictionaries();
     void ShowTitle();
     void KeepFocus();
+    void MoveFocus(const Control& control);
+    void LeaveDocument();
     void GiveFocusBack(HWND control);
     Button* FocusedButton();
     layout::Measure MeasureNow() const { return {Dpi(), Font()}; }
@@ -179,6 +183,9 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     Subclass copy_data_mouse_;
     Subclass word_pointer_;
     ClosingTimer tmrBye_;
+    HeldKeys held_;
+    /// The key message that is being handled repeats a key that is held down.
+    bool key_repeats_ = false;
     HWND last_focus_ = nullptr;
     /// The check or long command that is letting messages through, if one is.
     ProgressWindow* running_ = nullptr;

@@ -28,6 +28,9 @@ bool frmNewSpell::OnCommand(const ControlEvent& event) {
 bool frmNewSpell::OnButton(int id) {
     const Button* button = ButtonWithId(id);
     if (button == nullptr || !button->Enabled()) return true;
+    // A key held too long must not fill a dictionary with words that nobody looked at.
+    const bool adds = id >= main_id::cmdAdd && id <= main_id::cmdAddAll_last;
+    if (adds && key_repeats_) return true;
     switch (id) {
         case main_id::cmdChange: cmdChange_Click(); break;
         case main_id::cmdChangeAll: cmdChangeAll_Click(); break;
@@ -86,56 +89,6 @@ bool frmNewSpell::OnTimer(UINT_PTR id) {
     if (id != ClosingTimer::kId) return false;
     tmrBye_Timer();
     return true;
-}
-
-// ---- keys ----
-
-bool frmNewSpell::OnKey(const MSG& message) {
-    const auto key = static_cast<UINT>(message.wParam);
-    // The right Alt key of many keyboards counts as both, and writes letters.
-    const bool control = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
-    const bool shift = GetKeyState(VK_SHIFT) < 0;
-    switch (message.message) {
-        case WM_SYSKEYUP: return GetKeyState(VK_CONTROL) >= 0 && !shift && Form_KeyUp(key);
-        case WM_SYSKEYDOWN:
-            if (key < '1' || key > '9' || GetKeyState(VK_CONTROL) < 0 || shift) return false;
-            suggestions_.Pick(static_cast<int>(key - '0'));
-            return true;
-        case WM_KEYDOWN:
-            if (key == VK_F7) cmdSpellcheck.Click();
-            if (key == VK_ESCAPE && rtbW.HasFocus()) cmdCancel_Click();
-            if (key == 'O' && control) cmdOpen.Click();
-            if (key == 'S' && control) cmdSaveAs.Click();
-            if (key == VK_RETURN) return OnEnter();
-            return key == VK_F7 || (key == VK_ESCAPE && handle_ == nullptr) ||
-                   ((key == 'O' || key == 'S') && control);
-        default: return false;
-    }
-}
-
-bool frmNewSpell::OnEnter() {
-    if (rtbW.HasFocus()) return false;
-    if (Button* button = FocusedButton()) {
-        button->Click();
-        return true;
-    }
-    for (const ComboBox* combo : {&cboChgTo, &cboDicts}) {
-        if (combo->HasFocus() && combo->DroppedDown()) return false;
-    }
-    if (cmdChange.Enabled()) {
-        cmdChange.Click();
-    } else {
-        program_.ui.Beep();
-    }
-    return true;
-}
-
-// With Alt alone: the access keys of "Search/Change &to" and "Sugg&estions", whatever the language
-// made of these captions.
-bool frmNewSpell::Form_KeyUp(UINT key) {
-    if (key == 'T') txtChgTo.SetFocus();
-    if (key == 'E') lstSug.SetFocus();
-    return key == 'T' || key == 'E';
 }
 
 // ---- menus ----
@@ -242,62 +195,6 @@ frmNewSpell::Reply frmNewSpell::OnMessage(UINT message, WPARAM wparam, LPARAM lp
         return 0;
     }
     return Dialog::OnMessage(message, wparam, lparam);
-}
-
-// ---- focus ----
-
-// A command may disable or hide the control that has the focus; then the keyboard would be dead.
-void frmNewSpell::KeepFocus() {
-    if (handle_ == nullptr || GetActiveWindow() != handle_) return;
-    const HWND focus = GetFocus();
-    if (focus != nullptr && focus != handle_ && IsWindowEnabled(focus) && IsWindowVisible(focus))
-        return;
-    const Control* const wanted[] = {&cmdChange, &txtChgTo, &rtbW};
-    for (const Control* control : wanted) {
-        if (control == &txtChgTo && commands_.session.Words().empty()) continue;
-        if (!control->Enabled()) continue;
-        control->SetFocus();
-        return;
-    }
-}
-
-void frmNewSpell::OnKeyHandled(UINT message, HWND focus_before) {
-    if (message == WM_SYSCHAR) GiveFocusBack(focus_before);
-    // The dialog manager looks for the button that Enter presses among the form's own children, and
-    // so does not see that it is in a panel.
-    const Button* focused = FocusedButton();
-    cmdChange.SetDefault(focused == nullptr || focused == &cmdChange);
-}
-
-// A command given by its access key leaves the keyboard where it was: else the next Enter would
-// press the same button again instead of taking the suggestion.
-void frmNewSpell::GiveFocusBack(HWND control) {
-    const Button* pressed = FocusedButton();
-    if (pressed == nullptr || pressed->Handle() == control || GetActiveWindow() != handle_) return;
-    if (IsWindowEnabled(control) && IsWindowVisible(control)) {
-        SendMessageW(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
-    }
-}
-
-Button* frmNewSpell::FocusedButton() {
-    const HWND focus = GetFocus();
-    Button* button = ButtonWithId(GetDlgCtrlID(focus));
-    return button != nullptr && button->Handle() == focus ? button : nullptr;
-}
-
-// The dialog manager gives the focus back after another window had it only to a control that can
-// take it.
-void frmNewSpell::OnActivate(bool active) {
-    if (active) {
-        // Under a box that waits for its answer.
-        if (!IsWindowEnabled(handle_)) return;
-        if (last_focus_ != nullptr && IsWindow(last_focus_) && IsWindowEnabled(last_focus_)) {
-            ::SetFocus(last_focus_);
-        }
-        KeepFocus();
-    } else {
-        last_focus_ = GetFocus();
-    }
 }
 
 }  // namespace wordhawk

@@ -187,6 +187,7 @@ TEST_F(SpellSessionTest, FinishingAnnouncesAndClosesAsTheSettingsSay) {
         EXPECT_EQ(session_.CurrentWord(), L"");
         EXPECT_EQ(session_.NotFoundCaption(), L"0 - Not Found");
         EXPECT_EQ(session_.Buttons(L""), ButtonStates{});
+        EXPECT_EQ(document_.Selection(), (TextRange{3, 0})) << "the next key would replace it";
     }
 }
 
