@@ -34,6 +34,17 @@ struct Settings {
     int PrefTab = 0;
     std::wstring Language;
 
+    // The modern ways of checking; in the window and for automation each is off unless set.
+
+    /// Suggestions come from the whole dictionary.
+    std::uint8_t WideSearch = 0;
+    /// The typographic apostrophe (U+2019) reads as the straight one.
+    std::uint8_t StraightApostrophe = 0;
+    /// Words made of known words are known, in languages that make them so.
+    std::uint8_t Compounds = 0;
+    /// A letter never delimits words, whatever its delimiter flag says.
+    std::uint8_t LettersStay = 0;
+
     /// Names of the active custom dictionaries, in order; never empty once loaded.
     std::vector<std::wstring> CustomDictionaries = {L"CUSTOM.DIC"};
 };

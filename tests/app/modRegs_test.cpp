@@ -32,13 +32,30 @@ TEST_F(ModRegs, KeysAndDefaults) {
         const wchar_t* key;
         const wchar_t* value;
     } defaults[] = {
-        {L"Confirmation", L""},   {L"SuggFromMain", L"0"}, {L"CustomDic", L"CUSTOM.DIC"},
-        {L"ScoreBox", L"0"},      {L"IgnoreWebs", L"1"},   {L"IgnoreUCase", L"1"},
-        {L"IgnoreNumbers", L"1"}, {L"SortBy", L"0"},       {L"ClipType", L"0"},
-        {L"CheckClip", L"0"},     {L"SetClip", L"0"},      {L"SaveBack", L"0"},
-        {L"OpenSave", L"0"},      {L"RemainOpen", L"0"},   {L"OpenWOptions", L"0"},
-        {L"ScoreValue", L"80"},   {L"Diversity", L"2"},    {L"ExtraDiversity", L"0"},
-        {L"PrefTab", L"0"},       {L"Language", L""},
+        {L"Confirmation", L""},
+        {L"SuggFromMain", L"0"},
+        {L"CustomDic", L"CUSTOM.DIC"},
+        {L"ScoreBox", L"0"},
+        {L"IgnoreWebs", L"1"},
+        {L"IgnoreUCase", L"1"},
+        {L"IgnoreNumbers", L"1"},
+        {L"SortBy", L"0"},
+        {L"ClipType", L"0"},
+        {L"CheckClip", L"0"},
+        {L"SetClip", L"0"},
+        {L"SaveBack", L"0"},
+        {L"OpenSave", L"0"},
+        {L"RemainOpen", L"0"},
+        {L"OpenWOptions", L"0"},
+        {L"ScoreValue", L"80"},
+        {L"Diversity", L"2"},
+        {L"ExtraDiversity", L"0"},
+        {L"PrefTab", L"0"},
+        {L"Language", L""},
+        {L"WideSearch", L"0"},
+        {L"StraightApostrophe", L"0"},
+        {L"Compounds", L"0"},
+        {L"LettersStay", L"0"},
     };
     const Settings settings = LoadSettings(state_);
     ASSERT_EQ(modRegs::Rows().size(), std::size(defaults));
