@@ -12,4 +12,17 @@ int RunMessageLoop(Dialog& form) {
     return static_cast<int>(message.wParam);
 }
 
+void RunMessagesUntilClosed(Dialog& form) {
+    MSG message{};
+    while (form.Handle() != nullptr) {
+        if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        if (form.PreTranslate(message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
 }  // namespace wordhawk

@@ -8,4 +8,8 @@ namespace wordhawk {
 /// Returns the exit code.
 int RunMessageLoop(Dialog& form);
 
+/// The same while the form has its window; also returns when the program is asked to end, which it
+/// leaves to the loop outside.
+void RunMessagesUntilClosed(Dialog& form);
+
 }  // namespace wordhawk

@@ -52,8 +52,9 @@ class DocumentPane : public SpellDocument {
     Result<void> SavePlainFile(const Path& file, const AnsiCodePage& page);
     Result<void> SaveRichFile(const Path& file);
     std::string RichText();
-    /// Whether there is text that differs from what was loaded or saved last.
-    bool HasUnsavedText() { return !Empty() && revision_ != saved_revision_; }
+    /// Whether the text differs from what was loaded or saved last, be it that it is gone.
+    bool Changed() const { return revision_ != saved_revision_; }
+    bool HasUnsavedText() { return !Empty() && Changed(); }
     /// The text is safe elsewhere, as it is now.
     void MarkSaved() { saved_revision_ = revision_; }
     /// Whether the text came in as rich text.

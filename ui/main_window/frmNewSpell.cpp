@@ -2,7 +2,6 @@
 
 #include "app/version.h"
 #include "dict/dictionary_store.h"
-#include "engine/check/check_pass.h"
 #include "engine/session/captions.h"
 #include "lang/apply_language.h"
 #include "lang/modLoadRes.h"
@@ -34,6 +33,12 @@ frmNewSpell::frmNewSpell(const Surroundings& surroundings)
                  [this](ProgressWindow* progress) { running_ = progress; },
                  [this](const SessionStep& step) { Finished(step); }}),
       files_({program_, desktop_, document, commands_, status_}),
+      check_({program_, desktop_, document, files_, commands_, status_, theme_, *this,
+              [this](ProgressWindow* progress) { running_ = progress; }, [this] { ShowToUser(); },
+              [this] { ShowTitle(); },
+              [this] {
+                  if (!OptionsShown()) cmdOptions_Click();
+              }}),
       menu_commands_({program_, desktop_, *this, menus_, commands_, suggestions_, status_}),
       geometry_(*this, surroundings.placement) {}
 
@@ -50,10 +55,15 @@ Dialog::Look frmNewSpell::WantedLook() const {
     return look;
 }
 
-bool frmNewSpell::Show() {
+bool frmNewSpell::Make() {
     Form_Initialize();
     if (!Create(nullptr)) return false;
     geometry_.Restore(handle_, MeasureNow());
+    return true;
+}
+
+bool frmNewSpell::Show() {
+    if (!Make()) return false;
     ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
     const bool check_at_once = program_.state.ProgramMode && files_.CommandFileIsPending();
     MoveFocus(check_at_once ? static_cast<const Control&>(lstNID) : rtbW);
@@ -197,42 +207,20 @@ void frmNewSpell::cmdSpellcheck_Click() {
     if (!cmdSpellcheck.Enabled() || running_ != nullptr) return;
     commands_.Reset();
     status_.Clear();
-    if (files_.CommandFileIsPending()) {
-        if (!files_.LoadCommandFile()) return;
-        LeaveDocument();
-    }
+    if (files_.CommandFileIsPending()) LeaveDocument();
     CheckDocument();
 }
 
+long frmNewSpell::SpellCheck(SpellCheckArguments& arguments) {
+    return cSpellit(program_, check_).SpellCheck(arguments);
+}
+
 void frmNewSpell::CheckDocument() {
-    ShowTitle();
-    CheckResult result;
     const HWND focus_before = GetFocus();
-    {
-        const Hourglass busy(program_.ui);
-        ProgressWindow progress(program_.state, theme_, handle_,
-                                ProgressWindow::Appear::WhenItTakesLong);
-        progress.Show(LoadResText(program_.state, text_id::kSpellingCheck));
-        running_ = &progress;
-        result = CheckText(document.Text(), program_.dictionaries,
-                           SplitRules::From(program_.state, program_.settings), progress);
-        running_ = nullptr;
-    }
-    const std::size_t count = result.words.size();
-    commands_.session.SetCompletionNotice(true);
-    const bool correcting = FindNextToStart(std::move(result.words));
-    const ProgramState& state = program_.state;
-    if (result.cancelled) {
-        status_.Say(LoadResText(state, text_id::kCheckCancelled));
-    } else if (ListFiles(state.LanguageDictFolder, L".dic").empty()) {
-        status_.Say(LoadResText(state, text_id::kNoDictionary));
-    } else {
-        status_.Say(Filled(LoadResText(state, count == 0   ? text_id::kNoUnknownWords
-                                              : count == 1 ? text_id::kOneUnknownWord
-                                                           : text_id::kUnknownWords),
-                           {std::to_wstring(count)}));
-    }
+    SpellCheckArguments arguments = check_.OwnArguments();
+    if (SpellCheck(arguments) < kChecked) return;
     if (CloseIfAsked()) return;
+    const bool correcting = !commands_.session.Words().empty();
     if (correcting) {
         // From here on Enter means Change; in the document it would replace the selected word.
         MoveFocus(txtChgTo);
@@ -242,11 +230,26 @@ void frmNewSpell::CheckDocument() {
         if (GetFocus() == nullptr && IsWindow(focus_before)) ::SetFocus(focus_before);
         document.CollapseSelection();
     }
-    if (!correcting && !result.cancelled && !document.Empty()) {
+    if (!correcting && !check_.Cancelled() && !document.Empty()) {
         files_.SetClipboard();
         commands_.Announce(commands_.session.Notice());
     }
     KeepFocus();
+}
+
+// Another program has the keyboard, and the system may refuse to take it away: then the window is
+// at least to be seen.
+void frmNewSpell::ShowToUser() {
+    ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
+    if (!SetForegroundWindow(handle_) || GetForegroundWindow() != handle_) {
+        constexpr UINT kInPlace = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+        SetWindowPos(handle_, HWND_TOPMOST, 0, 0, 0, 0, kInPlace);
+        SetWindowPos(handle_, HWND_NOTOPMOST, 0, 0, 0, 0, kInPlace);
+        FLASHWINFO flash{sizeof flash, handle_, FLASHW_ALL | FLASHW_TIMERNOFG, 0, 0};
+        FlashWindowEx(&flash);
+    }
+    MoveFocus(txtChgTo);
+    txtChgTo.SelectAll();
 }
 
 void frmNewSpell::cmdAddAll_Click(int index) {
@@ -286,6 +289,8 @@ void frmNewSpell::cmdOpen_Click() {
 }
 
 void frmNewSpell::OnDropFiles(const std::vector<std::wstring>& paths) {
+    // Another program waits for the very text that is there.
+    if (!program_.state.ProgramMode) return;
     if (paths.empty() || running_ != nullptr || !files_.LoadDropped(paths.front())) return;
     LeaveDocument();
     commands_.Reset();
@@ -328,6 +333,8 @@ void frmNewSpell::Unload() {
         return;
     }
     if (!Form_QueryUnload()) return;
+    check_.Closing();
+    if (handle_ == nullptr) return;
     Form_Unload();
     Close(0);
     if (on_unloaded) on_unloaded();

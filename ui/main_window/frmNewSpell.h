@@ -12,6 +12,7 @@
 #include "ui/main_window/button_drag.h"
 #include "ui/main_window/closing_timer.h"
 #include "ui/main_window/correction_commands.h"
+#include "ui/main_window/document_check.h"
 #include "ui/main_window/document_files.h"
 #include "ui/main_window/main_geometry.h"
 #include "ui/main_window/main_menu_commands.h"
@@ -49,6 +50,12 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     /// Makes and fills the window and shows it, then checks the document of the command line. False
     /// when the system refuses to make it.
     bool Show();
+    /// Makes and fills the window without showing it.
+    bool Make();
+    /// Checks what the arguments say, as cSpellit::SpellCheck.
+    long SpellCheck(SpellCheckArguments& arguments);
+    /// The program that asked for the check has ended: what was corrected is kept for the user.
+    void CallerEnded() { check_.CallerEnded(); }
     /// As the close button does.
     void Unload();
     /// Called when the window is gone.
@@ -154,6 +161,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
 
     void SetWordPointer();
     void CheckDocument();
+    void ShowToUser();
     void Finished(const SessionStep& step);
     bool CloseIfAsked();
     void ShowCustomDictionaries();
@@ -177,6 +185,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     SuggestionPane suggestions_;
     CorrectionCommands commands_;
     DocumentFiles files_;
+    DocumentCheck check_;
     MainMenuCommands menu_commands_;
     MainGeometry geometry_;
     ButtonDrag drag_;
