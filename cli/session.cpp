@@ -12,7 +12,7 @@ ProgramOptions ToProgramOptions(const GlobalOptions& options) {
     ProgramOptions program;
     if (!options.data_folder.empty()) program.data_folder = PathFromArgument(options.data_folder);
     program.locale = options.locale;
-    program.install_dictionaries = options.install;
+    program.install_shipped = options.install;
     for (const auto& [key, value] : options.settings) {
         program.setting_overrides.emplace_back(FromUtf8(key), FromUtf8(value));
     }

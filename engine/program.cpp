@@ -2,6 +2,7 @@
 
 #include "app/prepare_folders.h"
 #include "engine/install.h"
+#include "engine/install_languages.h"
 #include "lang/modRcLangs.h"
 #include "platform/cIsInIDE.h"
 #include "platform/folders.h"
@@ -22,6 +23,7 @@ Program::Program(ProgramOptions options, UiServices& services)
                                                              : SystemAnsiPage(locale));
 
     PrepareFolders(state);
+    InstallLanguages();
     modRcLangs::InitLanguage(state, ui);
     OverrideLanguage();
     InstallDictionaries();
@@ -60,8 +62,16 @@ void Program::OverrideLanguage() {
     }
 }
 
+void Program::InstallLanguages() {
+    if (!options_.install_shipped) return;
+    InstallShippedLanguages(state,
+                            options_.shipped_languages.empty() ? ProgramFolder() / "languages"
+                                                               : options_.shipped_languages,
+                            modRcLangs::WantedLocale(state));
+}
+
 void Program::InstallDictionaries() {
-    if (!options_.install_dictionaries) return;
+    if (!options_.install_shipped) return;
     InstallShippedDictionaries(state, options_.shipped_dictionaries.empty()
                                           ? ProgramFolder() / "dictionaries"
                                           : options_.shipped_dictionaries);

@@ -20,10 +20,12 @@ struct ProgramOptions {
     int locale = 0;
     /// Started by the user (true) or for automation (false).
     bool program_mode = true;
-    /// Copy shipped dictionaries into a language folder that has none.
-    bool install_dictionaries = true;
+    /// Copy shipped dictionaries and language files into folders that have none.
+    bool install_shipped = true;
     /// Folder of the shipped dictionaries; empty means "dictionaries" beside the program.
     Path shipped_dictionaries;
+    /// Folder of the shipped language files; empty means "languages" beside the program.
+    Path shipped_languages;
     /// Settings and delimiter flags that hold for this run only.
     std::vector<std::pair<std::wstring, std::wstring>> setting_overrides;
     std::vector<std::pair<int, int>> flag_overrides;
@@ -51,6 +53,7 @@ class Program {
 
   private:
     void OverrideLanguage();
+    void InstallLanguages();
     void InstallDictionaries();
 
     ProgramOptions options_;

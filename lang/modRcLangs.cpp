@@ -24,14 +24,6 @@ Path LanguageFilePath(const ProgramState& state, std::wstring_view locale, std::
            PathFromText(std::wstring(base) + L".ini");
 }
 
-/// The locale number wished for: the user's choice, else the one in force, else English.
-int WantedLocale(const ProgramState& state) {
-    const std::wstring chosen =
-        modSect::ReadSetting(modRegs::kSettingsSection, kLanguageKey, {}, state.SettingsFile);
-    if (const auto number = WholeNumber(chosen)) return *number;
-    return WholeNumber(state.LanguageId).value_or(kEnglish);
-}
-
 /// Writes the texts in force as a start for translators. Fails quietly where the folder is missing.
 void GenerateLanguageFile(const ProgramState& state, UiServices& ui) {
     constexpr int kFirstId = 100;
@@ -48,6 +40,13 @@ void GenerateLanguageFile(const ProgramState& state, UiServices& ui) {
 }
 
 }  // namespace
+
+int WantedLocale(const ProgramState& state) {
+    const std::wstring chosen =
+        modSect::ReadSetting(modRegs::kSettingsSection, kLanguageKey, {}, state.SettingsFile);
+    if (const auto number = WholeNumber(chosen)) return *number;
+    return WholeNumber(state.LanguageId).value_or(kEnglish);
+}
 
 std::wstring InitLanguage(ProgramState& state, UiServices& ui) {
     const int wanted = WantedLocale(state);

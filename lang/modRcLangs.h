@@ -8,6 +8,10 @@
 
 namespace wordhawk::modRcLangs {
 
+/// The locale number that InitLanguage will try: setting "Language", else `state.LanguageId`, else
+/// English.
+int WantedLocale(const ProgramState& state);
+
 /// Chooses the interface language from setting "Language", else from `state.LanguageId`; generates
 /// a missing language file from the built-in texts; falls back to 1033. Sets the language members
 /// of `state`, stores the choice and returns the locale number in force.

@@ -128,7 +128,7 @@ int Run(std::size_t megabytes) {
     ProgramOptions options;
     options.data_folder = words;
     options.locale = 1033;
-    options.install_dictionaries = false;
+    options.install_shipped = false;
     Program program(options, fakes.ui);
     SharedMainWindow shared;
     frmNewSpell form(

@@ -19,6 +19,7 @@ class ProgramTest : public testing::Test {
         options.data_folder = folder_ / L"new" / "Data";
         options.locale = 2057;
         options.shipped_dictionaries = folder_ / L"shipped";
+        options.shipped_languages = folder_ / L"languages";
         return options;
     }
     TempDir folder_;
@@ -55,7 +56,7 @@ TEST_F(ProgramTest, ShippedDictionariesAreCopiedOnceAndLeftAlone) {
 TEST_F(ProgramTest, NoInstallLeavesTheFolderEmpty) {
     test::WriteBytes(folder_ / L"shipped" / "2057" / "co_.dic", "colour,67460\r\n");
     ProgramOptions options = Options();
-    options.install_dictionaries = false;
+    options.install_shipped = false;
     Program program(options, ui_);
     EXPECT_TRUE(std::filesystem::is_empty(program.state.DataFolder / "Dictionarys" / "2057"));
     EXPECT_FALSE(program.dictionaries.IsWordInDictionaries(L"colour", Scope::MainOnly));

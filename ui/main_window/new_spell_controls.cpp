@@ -123,6 +123,9 @@ void NewSpellControls::ArrangeOptions(const layout::Measure& measure) const {
 
 void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
     using namespace layout;
+    // Wide enough for a score, and for the word for it in every language.
+    const int heading = static_cast<int>(measure.TextSize(lblDum[2].Text()).cx);
+    const int scores = std::max(62, MulDiv(heading, 96, measure.dpi) + 2);
     NodePtr words = Column(4,
                            List(Text(lblDum[0]), Item(lblNID, {60, kFieldHeight}),
                                 Item(lstNID, {80, 60}, 1), Text(lblNIL)),
@@ -132,8 +135,8 @@ void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
                List(Text(lblDum[1]),
                     Row(4, List(Item(txtChgTo, {60, kFieldHeight}, 1),
                                 Item(cboChgTo, {46, kFieldHeight}, 0, Fill::Centred))),
-                    Row(4, List(Item(lstSug, {60, 60}, 1), Item(lstSco, {62, 60}, 0)), 1),
-                    Row(4, List(Text(lblCnt, 1), Item(lblDum[2], {62, 0}, 0, Fill::Centred)))),
+                    Row(4, List(Item(lstSug, {60, 60}, 1), Item(lstSco, {scores, 60}, 0)), 1),
+                    Row(4, List(Text(lblCnt, 1), Item(lblDum[2], {scores, 0}, 0, Fill::Centred)))),
                6);
     NodePtr lists = Row(9, List(std::move(words), std::move(suggestions)), 4);
     NodePtr buttons = Buttons(5, 4, button_order_);

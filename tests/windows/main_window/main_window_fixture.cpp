@@ -62,7 +62,7 @@ frmNewSpell& MainWindowTest::Open(const Path& command_file, Mode mode) {
     options.data_folder = folder_ / L"data";
     options.locale = 1033;
     options.program_mode = mode == Mode::Application;
-    options.install_dictionaries = false;
+    options.install_shipped = install_shipped_;
     options.flag_overrides = flags_;
     program_ = std::make_unique<Program>(options, fakes_.ui);
     program_->state.CommandFile = TextFromPath(command_file);

@@ -22,6 +22,8 @@ class MainWindowTest : public testing::Test {
 
     /// Written to the settings file before the window opens.
     void Setting(std::wstring_view key, std::wstring_view value);
+    /// Lets the window find the language files that are shipped.
+    void InstallShipped() { install_shipped_ = true; }
     void Flag(int index, int value) { flags_.emplace_back(index, value); }
     enum class Mode { Application, Automation };
     /// Opens the window; `command_file` stands for the command line.
@@ -65,6 +67,7 @@ class MainWindowTest : public testing::Test {
 
   private:
     std::vector<std::pair<int, int>> flags_;
+    bool install_shipped_ = false;
     std::unique_ptr<frmNewSpell> form_;
 };
 

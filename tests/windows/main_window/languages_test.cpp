@@ -1,0 +1,105 @@
+#include "platform/folders.h"
+#include "tests/windows/main_window/main_window_fixture.h"
+
+#include <commctrl.h>
+
+#include <map>
+
+namespace wordhawk::test {
+namespace {
+
+/// The letter that "&" marks, in upper case; 0 when none is marked.
+wchar_t AccessKey(std::wstring_view text) {
+    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != L'&') continue;
+        if (text[i + 1] != L'&') return Upper(text.substr(i + 1, 1))[0];
+        ++i;
+    }
+    return 0;
+}
+
+std::wstring ClassOf(HWND control) {
+    wchar_t name[64]{};
+    GetClassNameW(control, name, 64);
+    return name;
+}
+
+std::wstring TextOf(HWND control) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(control)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(
+        GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+/// The buttons and labels of a window that can be seen.
+std::vector<HWND> Captions(HWND window) {
+    std::vector<HWND> found;
+    EnumChildWindows(
+        window,
+        [](HWND control, LPARAM list) -> BOOL {
+            const std::wstring type = ClassOf(control);
+            const bool caption =
+                EqualIgnoringCase(type, WC_BUTTONW) || EqualIgnoringCase(type, WC_STATICW);
+            if (caption && IsWindowVisible(control)) {
+                reinterpret_cast<std::vector<HWND>*>(list)->push_back(control);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+int TextWidth(HWND control) {
+    const HDC screen = GetDC(control);
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
+    const HGDIOBJ before = SelectObject(screen, font);
+    RECT bounds{};
+    DrawTextW(screen, TextOf(control).c_str(), -1, &bounds, DT_CALCRECT | DT_SINGLELINE);
+    SelectObject(screen, before);
+    ReleaseDC(control, screen);
+    return static_cast<int>(bounds.right);
+}
+
+class WindowInLanguage : public MainWindowTest, public testing::WithParamInterface<int> {
+  protected:
+    WindowInLanguage() {
+        Setting(L"Language", std::to_wstring(GetParam()));
+        Setting(L"ScoreBox", L"1");
+        Setting(L"OpenSave", L"1");
+        Setting(L"OpenWOptions", L"1");
+        InstallShipped();
+    }
+};
+
+TEST_P(WindowInLanguage, HasNoClippedTextAndNoKeyTwice) {
+    OpenWith(L"teh helo wrld");
+    EXPECT_EQ(program_->state.LanguageId, std::to_wstring(GetParam()));
+    std::map<wchar_t, std::string> keys;
+    // These two work in every language, whatever the captions are.
+    keys[L'T'] = keys[L'E'] = "";
+    for (const HWND control : Captions(Form().Handle())) {
+        const std::wstring text = TextOf(control);
+        const bool button = EqualIgnoringCase(ClassOf(control), WC_BUTTONW);
+        RECT area{};
+        GetClientRect(control, &area);
+        EXPECT_LE(TextWidth(control) + (button ? 6 : 0), area.right) << ToUtf8(text);
+
+        const wchar_t key = AccessKey(text);
+        if (key == 0) continue;
+        const bool fixed =
+            control == Form().lblDum[1].Handle() || control == Form().lblCnt.Handle();
+        if (fixed && (key == L'T' || key == L'E')) continue;
+        EXPECT_TRUE(keys.emplace(key, ToUtf8(text)).second)
+            << ToUtf8(text) << " has the key of " << keys[key];
+    }
+    EXPECT_GE(keys.size(), 12u);
+    EXPECT_EQ(AccessKey(Form().lblDum[1].Text()), L'T');
+}
+
+INSTANTIATE_TEST_SUITE_P(All, WindowInLanguage,
+                         testing::Values(1033, 1030, 1031, 1034, 1036, 1040, 1043, 1045, 1046, 1053,
+                                         2070),
+                         testing::PrintToStringParamName());
+
+}  // namespace
+}  // namespace wordhawk::test
