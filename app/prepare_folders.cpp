@@ -1,12 +1,13 @@
 #include "app/prepare_folders.h"
 
+#include "app/program_folders.h"
 #include "app/version.h"
-#include "platform/folders.h"
 #include "platform/locale_ids.h"
 
 namespace wordhawk {
 
-Path ComputeDataFolder() {
+Path ComputeDataFolder(const Path& program_folder) {
+    if (Path portable = PortableDataFolder(program_folder); !portable.empty()) return portable;
     const Path application_data = SpecialFolder(kApplicationDataFolder);
     if (application_data.empty()) return {};
     return application_data / WORDHAWK_COMPANY / WORDHAWK_PRODUCT;

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "app/program_state.h"
+#include "platform/folders.h"
 
 namespace wordhawk {
 
-/// Data folder of the current user: application data, company, product.
-Path ComputeDataFolder();
+/// The data folder: of a portable copy beside the program in `program_folder`, else the current
+/// user's, which is application data, company, product.
+Path ComputeDataFolder(const Path& program_folder = ProgramFolder());
 
 /// Makes the folder tree under `state.DataFolder` (computed when empty), and sets LanguageId,
 /// LanguageDictFolder, SettingsFile and FoldersReady. A folder that cannot be made is skipped. The

@@ -1,4 +1,4 @@
-# Read by ./run and ./test with ".": installs the Debian packages that are missing.
+# Read by ./run, ./test and ./package with ".": installs the Debian packages that are missing.
 # Everything goes to standard error, so that the scripts' own output stays clean.
 
 # Lists those of its arguments that are not installed.
@@ -52,6 +52,8 @@ WINDOW_PACKAGES="g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 libwine
     fonts-wine fonts-liberation"
 # A virtual screen, its keyboard and its camera.
 SCREEN_PACKAGES="xvfb xdotool imagemagick"
+# What makes the installer, the archive and the .deb.
+DELIVERY_PACKAGES="nsis zip dpkg"
 # More compilers, and what the tests are run with.
-TEST_PACKAGES="$WINDOW_PACKAGES $SCREEN_PACKAGES googletest libgtest-dev libgmock-dev clang ccache git
+TEST_PACKAGES="$WINDOW_PACKAGES $SCREEN_PACKAGES $DELIVERY_PACKAGES googletest libgtest-dev libgmock-dev clang ccache git
     emacs-nox vim procps"

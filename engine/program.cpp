@@ -1,6 +1,7 @@
 #include "engine/program.h"
 
 #include "app/prepare_folders.h"
+#include "app/program_folders.h"
 #include "engine/install.h"
 #include "engine/install_languages.h"
 #include "lang/modRcLangs.h"
@@ -65,15 +66,16 @@ void Program::OverrideLanguage() {
 void Program::InstallLanguages() {
     if (!options_.install_shipped) return;
     InstallShippedLanguages(state,
-                            options_.shipped_languages.empty() ? ProgramFolder() / "languages"
-                                                               : options_.shipped_languages,
+                            options_.shipped_languages.empty()
+                                ? ShippedFolder(ProgramFolder(), "languages")
+                                : options_.shipped_languages,
                             modRcLangs::WantedLocale(state));
 }
 
 void Program::InstallDictionaries() {
     if (!options_.install_shipped) return;
     InstallShippedDictionaries(state, options_.shipped_dictionaries.empty()
-                                          ? ProgramFolder() / "dictionaries"
+                                          ? ShippedFolder(ProgramFolder(), "dictionaries")
                                           : options_.shipped_dictionaries);
 }
 
