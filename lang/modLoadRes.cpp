@@ -17,6 +17,15 @@ std::wstring LoadResText(const ProgramState& state, int id, std::wstring_view pr
     return text.append(suffix);
 }
 
+std::wstring LoadCaption(const ProgramState& state, int id) {
+    std::wstring text = LoadResText(state, id);
+    for (std::size_t at = text.find(L'&'); at != text.npos; at = text.find(L'&', at + 2)) {
+        // Two of them stand for the character itself.
+        if (at + 1 < text.size() && text[at + 1] != L'&') return text;
+    }
+    return text.insert(0, 1, L'&');
+}
+
 }  // namespace wordhawk::modLoadRes
 
 namespace wordhawk {

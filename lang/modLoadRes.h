@@ -16,6 +16,9 @@ inline constexpr std::wstring_view kTextSection = L"Wordhawk";
 std::wstring LoadResText(const ProgramState& state, int id, std::wstring_view prefix = {},
                          std::wstring_view suffix = {});
 
+/// The text of `id` with an access key: its own, else its first letter.
+std::wstring LoadCaption(const ProgramState& state, int id);
+
 }  // namespace wordhawk::modLoadRes
 
 namespace wordhawk {

@@ -55,6 +55,8 @@ std::wstring MainAddQuestion(const ProgramState& state) {
     std::wstring question = LoadResText(state, text_id::kConfirmMainAdd);
     question += LoadResText(state, text_id::kResult, kParagraph, L":");
     question += LoadResText(state, text_id::kMainWordsStay, std::wstring(kParagraph) + L"  ");
+    // So that the sentence before does not frighten anyone away from the button.
+    question += LoadResText(state, text_id::kUndoTakesMainWordOut, L"\r\n  ");
     question += LoadResText(state, text_id::kAlternate, kParagraph, L":");
     question += LoadResText(state, text_id::kCustomWordsGo, kParagraph);
     question += LoadResText(state, text_id::kAddToMainQuestion, kParagraph);
@@ -63,6 +65,14 @@ std::wstring MainAddQuestion(const ProgramState& state) {
 
 std::wstring MainAddTitle(const ProgramState& state) {
     return LoadResText(state, text_id::kAddToMainTitle);
+}
+
+std::wstring MainRemoveQuestion(const ProgramState& state, std::wstring_view word) {
+    return Filled(LoadResText(state, text_id::kRemoveFromMainQuestion), {word});
+}
+
+std::wstring MainRemoveTitle(const ProgramState& state) {
+    return LoadResText(state, text_id::kRemoveWord);
 }
 
 }  // namespace wordhawk::captions

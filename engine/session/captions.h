@@ -36,4 +36,8 @@ std::wstring PadScoreText(std::wstring_view text,
 std::wstring MainAddQuestion(const ProgramState& state);
 std::wstring MainAddTitle(const ProgramState& state);
 
+/// Question before a word leaves the main dictionary, and its title.
+std::wstring MainRemoveQuestion(const ProgramState& state, std::wstring_view word);
+std::wstring MainRemoveTitle(const ProgramState& state);
+
 }  // namespace wordhawk::captions

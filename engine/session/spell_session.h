@@ -56,7 +56,7 @@ struct SessionStep {
     bool close = false;
     /// The word that Add put into a dictionary; UndoLastAdd can take it out again.
     std::optional<AddedWord> added;
-    /// A dictionary could not be read or written; the step was done apart from that.
+    /// A dictionary could not be read or written. A word that was to be added is in the list still.
     std::optional<Error> failure;
 };
 
@@ -117,8 +117,8 @@ class SpellSession {
     SessionStep Add(AddIndex index);
     /// Adds to the custom dictionary of that file name; never asks.
     SessionStep AddTo(std::wstring_view custom_name);
-    /// Adds every word of the list, which ends the check. When `progress` stops it, the words that
-    /// are still unknown stay in the list.
+    /// Adds every word of the list, which ends the check. When `progress` or a failure stops it,
+    /// the words that are still unknown stay in the list.
     SessionStep AddAll(AddIndex index, Progress& progress);
     /// The user chose an entry of lstNID: its first occurrence is selected.
     SessionStep SelectWord(std::size_t index);

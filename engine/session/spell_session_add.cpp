@@ -49,16 +49,17 @@ SessionStep SpellSession::AddCurrent(AddIndex index, AddTarget target, Path path
     added.file = AdditionFile(dictionaries, current_, target, path);
     added.already_there = HasEntry(added.file, added.word, dictionaries.Page());
 
-    const std::optional<std::size_t> removed = RemoveCurrentEntry();
     const Result<void> outcome = AddWordToDictionary(dictionaries, added.word, target, path);
     dictionaries.ReloadFile(added.file);
-
-    SessionStep step = SelectNextWord();
-    step.removed = removed;
     if (!outcome) {
+        // The word is as unknown as before, so it stays under correction.
+        SessionStep step;
         step.failure = outcome.error();
         return step;
     }
+    const std::optional<std::size_t> removed = RemoveCurrentEntry();
+    SessionStep step = SelectNextWord();
+    step.removed = removed;
     step.added = added;
     if (!added.already_there) {
         last_added_ = added;
@@ -83,7 +84,7 @@ SessionStep SpellSession::AddAll(AddIndex index, Progress& progress) {
         for (const Path& file : files) dictionaries.ReloadFile(file);
     }
     SessionStep step;
-    if (dictionaries.State().StopFlag) {
+    if (dictionaries.State().StopFlag || !outcome) {
         KeepUnknownWords(index);
         step = SelectNextWord();
         step.refill = true;

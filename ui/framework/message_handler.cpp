@@ -50,6 +50,8 @@ MessageHandler::Reply MessageHandler::OnChildMessage(UINT message, WPARAM wparam
         case WM_HSCROLL:
         case WM_VSCROLL:
             if (lparam != 0) OnScroll(reinterpret_cast<HWND>(lparam));
+            if (lparam != 0 && LOWORD(wparam) == SB_ENDSCROLL)
+                OnScrollEnd(reinterpret_cast<HWND>(lparam));
             return {};
         case WM_DRAWITEM:
             return OnDrawItem(*reinterpret_cast<DRAWITEMSTRUCT*>(lparam)) ? Reply(TRUE) : Reply();

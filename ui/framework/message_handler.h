@@ -49,6 +49,8 @@ class MessageHandler {
     virtual bool OnCommand(const ControlEvent&) { return false; }
     virtual Reply OnNotify(NMHDR&) { return {}; }
     virtual void OnScroll(HWND /*control*/) {}
+    /// The mouse or the key that moved it was let go.
+    virtual void OnScrollEnd(HWND /*control*/) {}
     virtual void OnSize(int /*width*/, int /*height*/) {}
     /// `dpi` is the new value; the window has its new size already.
     virtual void OnDpiChanged(int /*dpi*/) {}

@@ -16,7 +16,8 @@ using modLoadRes::LoadResText;
 CorrectionCommands::CorrectionCommands(Parts parts)
     : session({parts.controls.document, parts.program.dictionaries, parts.program.flags, recent,
                parts.program.ui}),
-      parts_(std::move(parts)) {}
+      parts_(std::move(parts)),
+      removal_(parts_.program.dictionaries, parts_.program.ui) {}
 
 bool CorrectionCommands::Begin(std::vector<std::wstring> words) {
     const SessionStep step = session.Begin(std::move(words));
@@ -61,9 +62,18 @@ void CorrectionCommands::AddAll(AddIndex index) {
     parts_.running(nullptr);
     progress.Hide();
     Run(step);
-    if (step.kind == SessionStep::Kind::Nothing || step.failure) return;
-    parts_.status.Say(Filled(LoadResText(parts_.program.state, text_id::kAddedWords),
-                             {std::to_wstring(count - session.Words().size())}));
+    const std::size_t added = count - session.Words().size();
+    if (step.kind == SessionStep::Kind::Nothing || added == 0) return;
+    parts_.status.Say(
+        Filled(LoadResText(parts_.program.state, text_id::kAddedWords), {std::to_wstring(added)}));
+}
+
+void CorrectionCommands::UndoInDictionary() {
+    if (parts_.status.Offered() == StatusLine::Undo::LastRemoval) {
+        UndoRemoval();
+    } else {
+        UndoLastAdd();
+    }
 }
 
 void CorrectionCommands::UndoLastAdd() {
@@ -71,9 +81,43 @@ void CorrectionCommands::UndoLastAdd() {
     const SessionStep step = session.UndoLastAdd();
     Run(step);
     if (added && !step.failure && step.inserted) {
-        parts_.status.Say(Filled(LoadResText(parts_.program.state, text_id::kTookOut),
-                                 {added->word, TextFromPath(added->file.filename())}));
+        parts_.status.Say(Sentence(text_id::kTookOutOfMain, text_id::kTookOut,
+                                   added->index == AddIndex::Main, added->word, added->file));
     }
+}
+
+void CorrectionCommands::RemoveSuggestion() {
+    const std::wstring word = parts_.suggestions.SelectedSuggestion();
+    if (word.empty()) return;
+    const Result<WordRemoval::Outcome> outcome = removal_.Remove(word);
+    if (!outcome) return ShowError(text_id::kCannotWriteDictionary, outcome.error());
+    if (*outcome == WordRemoval::Outcome::Declined) return;
+    parts_.suggestions.RemoveSelected();
+    if (*outcome == WordRemoval::Outcome::NotFound) {
+        return parts_.status.Say(
+            Filled(LoadResText(parts_.program.state, text_id::kNotRemoved), {word}));
+    }
+    const RemovedWord& removed = *removal_.Last();
+    parts_.status.Say(Sentence(text_id::kRemovedFromMain, text_id::kRemoved, removed.from_main,
+                               removed.word, removed.file),
+                      StatusLine::Undo::LastRemoval);
+}
+
+void CorrectionCommands::UndoRemoval() {
+    const std::optional<RemovedWord> removed = removal_.Last();
+    if (!removed) return;
+    if (const Result<void> put_back = removal_.PutBack(); !put_back) {
+        return ShowError(text_id::kCannotWriteDictionary, put_back.error());
+    }
+    parts_.suggestions.Refill();
+    parts_.status.Say(Sentence(text_id::kPutBackIntoMain, text_id::kPutBack, removed->from_main,
+                               removed->word, removed->file));
+}
+
+std::wstring CorrectionCommands::Sentence(int main_text, int other_text, bool is_main,
+                                          std::wstring_view word, const Path& file) const {
+    return Filled(LoadResText(parts_.program.state, is_main ? main_text : other_text),
+                  {word, TextFromPath(file.filename())});
 }
 
 void CorrectionCommands::SelectWord(int index) {
@@ -143,10 +187,15 @@ void CorrectionCommands::TellOfAdd(const SessionStep& step) {
         return;
     }
     const AddedWord& added = *step.added;
-    const int text = added.already_there ? text_id::kAlreadyThere : text_id::kAdded;
-    parts_.status.Say(Filled(LoadResText(parts_.program.state, text),
-                             {added.word, TextFromPath(added.file.filename())}),
-                      added.already_there ? StatusLine::Undo::None : StatusLine::Undo::LastAdd);
+    const bool is_main = added.index == AddIndex::Main;
+    if (added.already_there) {
+        parts_.status.Say(Sentence(text_id::kAlreadyInMain, text_id::kAlreadyThere, is_main,
+                                   added.word, added.file));
+    } else {
+        parts_.status.Say(
+            Sentence(text_id::kAddedToMain, text_id::kAdded, is_main, added.word, added.file),
+            StatusLine::Undo::LastAdd);
+    }
 }
 
 void CorrectionCommands::UpdateCounter() {
@@ -209,11 +258,9 @@ void CorrectionCommands::TakeWord() {
     NewSpellControls& c = parts_.controls;
     const std::wstring selected = c.document.SelectedText();
     std::wstring_view word = selected;
-    SplitRules rules = SplitRules::From(parts_.program.state, parts_.program.settings);
-    // Here a word is wanted whatever it is made of; only what clings to its ends goes.
-    rules.ignore_numbers = false;
-    rules.ignore_upper_case = false;
-    modSubs::CleanWord(word, rules);
+    // As in a check: what the rules pass over there (words in capitals, with digits) empties the
+    // box here. Taking such a word as it stands would be the other reading.
+    modSubs::CleanWord(word, SplitRules::From(parts_.program.state, parts_.program.settings));
     c.txtChgTo.SetText(MatchCase(word, selected));
 }
 

@@ -2,6 +2,7 @@
 
 #include "engine/program.h"
 #include "engine/session/spell_session.h"
+#include "engine/session/word_removal.h"
 #include "ui/desktop.h"
 #include "ui/dialogs/progress_window.h"
 #include "ui/framework/theme.h"
@@ -48,7 +49,10 @@ class CorrectionCommands {
     void Add(AddIndex index) { Run(session.Add(index)); }
     void AddTo(const std::wstring& custom_name) { Run(session.AddTo(custom_name)); }
     void AddAll(AddIndex index);
-    void UndoLastAdd();
+    /// Takes the selected suggestion out of its dictionary and off the list.
+    void RemoveSuggestion();
+    /// Takes the change of a dictionary back that the status line told of.
+    void UndoInDictionary();
     void SelectWord(int index);
     /// Copies the document, else the change-to box.
     void CopyData();
@@ -73,9 +77,15 @@ class CorrectionCommands {
     void ShowSuggestions();
     void ShowNoWords();
     void TellOfAdd(const SessionStep& step);
+    void UndoLastAdd();
+    void UndoRemoval();
+    /// One of two texts, for the main dictionary and (with %2 for its name) for another.
+    std::wstring Sentence(int main_text, int other_text, bool is_main, std::wstring_view word,
+                          const Path& file) const;
     void TellScreenReader();
 
     Parts parts_;
+    WordRemoval removal_;
 };
 
 }  // namespace wordhawk

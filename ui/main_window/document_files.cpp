@@ -82,6 +82,7 @@ void DocumentFiles::SaveAs(HWND owner) {
         parts_.commands.ShowError(text_id::kCannotWrite, saved.error());
         return;
     }
+    title_ = TextFromPath(choice->file.filename());
     parts_.status.Say(Filled(LoadResText(parts_.program.state, text_id::kSaved),
                              {TextFromPath(choice->file.filename())}));
 }

@@ -30,6 +30,8 @@ class DocumentFiles {
     /// cannot be taken.
     bool LoadCommandFile();
     bool CommandFileIsPending() const { return !command_file_loaded_ && !CommandFile().empty(); }
+    /// Whether the document is the file of the command line.
+    bool FromCommandFile() const { return from_command_file_; }
     /// Writes the text back to the file of the command line if that is wanted. False: it failed,
     /// and the user knows.
     bool SaveBack();

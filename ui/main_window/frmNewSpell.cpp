@@ -120,6 +120,8 @@ void frmNewSpell::Form_Load() {
     commands_.recent.LoadRecentChanges(program_.state.SettingsFile);
     commands_.ShowRecent();
     geometry_.Centre(handle_, MeasureNow());
+    // A check mark, whatever the file says.
+    program_.settings.ExtraDiversity = program_.settings.ExtraDiversity != 0 ? 1 : 0;
     suggestions_.ShowSliders();
     menus_.mnuDiversity->SetChecked(program_.settings.ExtraDiversity != 0);
     cmdSpellcheck.SetVisible(program_.state.ProgramMode);
@@ -161,9 +163,13 @@ void frmNewSpell::LoadSettings() {
 }
 
 void frmNewSpell::ShowCustomDictionaries() {
-    cboDicts.Fill(program_.settings.CustomDictionaries);
-    cboDicts.Select(cboDicts.FindExact(program_.settings.CustomDic));
-    menus_.FillCustom(program_.settings.CustomDictionaries);
+    Settings& settings = program_.settings;
+    cboDicts.Fill(settings.CustomDictionaries);
+    // What is added goes to a dictionary that is searched, and that the box shows.
+    if (cboDicts.FindExact(settings.CustomDic) < 0)
+        settings.CustomDic = settings.CustomDictionaries.front();
+    cboDicts.Select(cboDicts.FindExact(settings.CustomDic));
+    menus_.FillCustom(settings.CustomDictionaries);
 }
 
 void frmNewSpell::ApplyCaptions() {
@@ -230,9 +236,11 @@ void frmNewSpell::CheckDocument() {
         if (GetFocus() == nullptr && IsWindow(focus_before)) ::SetFocus(focus_before);
         document.CollapseSelection();
     }
-    if (!correcting && !check_.Cancelled() && !document.Empty()) {
-        files_.SetClipboard();
-        commands_.Announce(commands_.session.Notice());
+    // A file that was named has been checked even when it is empty.
+    const bool checked = !document.Empty() || files_.FromCommandFile();
+    if (!correcting && !check_.Cancelled() && checked) {
+        HandOver(commands_.session.Notice(),
+                 files_.FromCommandFile() && !program_.settings.RemainOpen);
     }
     KeepFocus();
 }
@@ -266,12 +274,17 @@ bool frmNewSpell::CloseIfAsked() {
 void frmNewSpell::Finished(const SessionStep& step) {
     // Whoever presses one key too many does so in an empty list.
     MoveFocus(lstNID);
-    files_.SetClipboard();
-    commands_.Announce(step.notice);
-    // The box of the announcement lets messages through, and one may have closed the window.
-    if (handle_ == nullptr) return;
-    if (step.close) tmrBye_.SetEnabled(handle_, true);
+    HandOver(step.notice, step.close);
     KeepFocus();
+}
+
+void frmNewSpell::HandOver(CompletionNotice notice, bool close) {
+    const bool saved = files_.SaveBack();
+    files_.SetClipboard();
+    commands_.Announce(notice);
+    // The box of the announcement lets messages through, and one may have closed the window. A text
+    // that could not be saved keeps it open.
+    if (handle_ != nullptr && close && saved) tmrBye_.SetEnabled(handle_, true);
 }
 
 void frmNewSpell::cmdSuggestions_Click() {
@@ -297,6 +310,11 @@ void frmNewSpell::OnDropFiles(const std::vector<std::wstring>& paths) {
     CheckDocument();
 }
 
+void frmNewSpell::cmdSaveAs_Click() {
+    files_.SaveAs(handle_);
+    ShowTitle();
+}
+
 void frmNewSpell::cmdOptions_Click() {
     geometry_.ToggleOptions(handle_, MeasureNow());
     KeepFocus();
@@ -309,6 +327,11 @@ void frmNewSpell::cmdPreferences_Click() {
 
 void frmNewSpell::cboChgTo_Click() {
     if (cboChgTo.Selected() >= 0) txtChgTo.SetText(cboChgTo.Item(cboChgTo.Selected()));
+}
+
+void frmNewSpell::txtChgTo_Change() {
+    commands_.UpdateButtons();
+    suggestions_.txtChgTo_Change();
 }
 
 void frmNewSpell::cboDicts_Click() {

@@ -104,7 +104,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void cmdCopyData_Click() { commands_.CopyData(); }
     void cmdCopyData_MouseDown() { commands_.CopyWord(); }
     void cmdOpen_Click();
-    void cmdSaveAs_Click() { files_.SaveAs(handle_); }
+    void cmdSaveAs_Click();
     void cmdOptions_Click();
     void cmdPreferences_Click();
     void cmdCancel_Click() { Unload(); }
@@ -115,7 +115,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void lstSco_DblClick() { suggestions_.lstSco_DblClick(); }
     void cboChgTo_Click();
     void cboDicts_Click();
-    void txtChgTo_Change() { commands_.UpdateButtons(); }
+    void txtChgTo_Change();
     void rtbW_Change() { document.OnChanged(); }
     void hsScore_Change() { suggestions_.hsScore_Change(); }
     void hsdiversity_Change() { suggestions_.hsdiversity_Change(); }
@@ -133,6 +133,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     bool OnCommand(const ControlEvent& event) override;
     Reply OnNotify(NMHDR& news) override;
     void OnScroll(HWND control) override;
+    void OnScrollEnd(HWND) override { suggestions_.SliderReleased(); }
     void OnSize(int width, int height) override;
     void OnMinimumSize(SIZE& smallest) override;
     bool OnTimer(UINT_PTR id) override;
@@ -157,12 +158,14 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     bool OnEnter();
     bool OnCommandKey(UINT key);
     void ShowMenu(PopupMenu& menu, const ContextRequest& request);
-    void SelectSuggestionUnder(POINT screen);
 
     void SetWordPointer();
     void CheckDocument();
     void ShowToUser();
     void Finished(const SessionStep& step);
+    /// The end of a check: the text goes where the settings want it, the end is announced, and the
+    /// window closes itself if asked to.
+    void HandOver(CompletionNotice notice, bool close);
     bool CloseIfAsked();
     void ShowCustomDictionaries();
     void ShowTitle();

@@ -48,7 +48,7 @@ bool frmNewSpell::OnButton(int id) {
         case main_id::cmdSaveAs: cmdSaveAs_Click(); break;
         case main_id::cmdOptions: cmdOptions_Click(); break;
         case main_id::cmdPreferences: cmdPreferences_Click(); break;
-        case main_id::cmdUndoAdd: commands_.UndoLastAdd(); break;
+        case main_id::cmdUndoAdd: commands_.UndoInDictionary(); break;
         default: return false;
     }
     KeepFocus();
@@ -97,17 +97,9 @@ bool frmNewSpell::OnContextMenu(const ContextRequest& request) {
     PopupMenu* menu = menu_commands_.MenuOf(request.control);
     if (menu == nullptr) return false;
     if (request.control == lstSug.Handle() && !request.by_keyboard)
-        SelectSuggestionUnder(request.screen);
+        suggestions_.SelectUnder(request.screen);
     ShowMenu(*menu, request);
     return true;
-}
-
-void frmNewSpell::SelectSuggestionUnder(POINT screen) {
-    ScreenToClient(lstSug.Handle(), &screen);
-    if (const auto row = lstSug.At(screen)) {
-        lstSug.Select(*row);
-        lstSco.Select(*row);
-    }
 }
 
 void frmNewSpell::ShowMenu(PopupMenu& menu, const ContextRequest& request) {
@@ -130,7 +122,7 @@ void frmNewSpell::OnInitMenu(HMENU menu) { menu_commands_.Update(menu); }
 
 void frmNewSpell::OnSize(int, int) { Form_Resize(); }
 
-void frmNewSpell::OnMinimumSize(SIZE& smallest) { smallest = MainGeometry::Smallest(Dpi()); }
+void frmNewSpell::OnMinimumSize(SIZE& smallest) { smallest = geometry_.Smallest(MeasureNow()); }
 
 void frmNewSpell::OnFontsChanged() {
     const int height = EntryHeight(Font(), Dpi());

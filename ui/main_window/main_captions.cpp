@@ -6,6 +6,7 @@
 
 namespace wordhawk {
 
+using modLoadRes::LoadCaption;
 using modLoadRes::LoadResText;
 
 void SetTextIds(NewSpellControls& c, MainMenus& menus) {
@@ -58,14 +59,14 @@ void SetComposedCaptions(const ProgramState& state, NewSpellControls& c) {
     c.lblCD.SetText(LoadResText(state, kCustomDictionaries));
     c.lblNIL.SetText(captions::NothingFoundYet(state));
     c.lblCnt.SetText(captions::NoSuggestionsYet(state));
-    c.cmdPreferences.SetText(LoadResText(state, kPreferences, L"&"));
-    c.cmdChange.SetText(LoadResText(state, kChange, L"&"));
-    c.cmdIgnore.SetText(LoadResText(state, kIgnore, L"&"));
-    c.cmdSuggestions.SetText(LoadResText(state, kSuggestions, L"&"));
+    c.cmdPreferences.SetText(LoadCaption(state, kPreferences));
+    c.cmdChange.SetText(LoadCaption(state, kChange));
+    c.cmdIgnore.SetText(LoadCaption(state, kIgnore));
+    c.cmdSuggestions.SetText(LoadCaption(state, kSuggestions));
     c.cmdOpen.SetText(LoadResText(state, kOpen));
     c.cmdSaveAs.SetText(LoadResText(state, kSaveAs));
-    c.cmdOptions.SetText(LoadResText(state, kOptions, L"&"));
-    c.cmdAdd[0].SetText(LoadResText(state, kAdd, L"&"));
+    c.cmdOptions.SetText(LoadCaption(state, kOptions));
+    c.cmdAdd[0].SetText(LoadCaption(state, kAdd));
 }
 
 }  // namespace wordhawk

@@ -30,13 +30,15 @@ void MainGeometry::Centre(HWND form, const layout::Measure& measure) {
 void MainGeometry::Restore(HWND form, const layout::Measure& measure) {
     const std::optional<SavedPlacement> saved = store_.Load();
     if (!saved) return;
-    const SIZE smallest = Smallest(measure.dpi);
+    const int options = options_shown_ ? controls_.OptionsWidth(measure) : 0;
+    const SIZE smallest = Smallest(measure);
     RECT bounds = saved->bounds;
     const LONG width = std::max<LONG>(
-        MulDiv(static_cast<int>(bounds.right - bounds.left), measure.dpi, saved->dpi), smallest.cx);
+        MulDiv(static_cast<int>(bounds.right - bounds.left), measure.dpi, saved->dpi),
+        smallest.cx - options);
     const LONG height = std::max<LONG>(
         MulDiv(static_cast<int>(bounds.bottom - bounds.top), measure.dpi, saved->dpi), smallest.cy);
-    bounds.right = bounds.left + width + (options_shown_ ? controls_.OptionsWidth(measure) : 0);
+    bounds.right = bounds.left + width + options;
     bounds.bottom = bounds.top + height;
     MoveTo(form, WithinScreen(bounds));
     if (saved->maximized) ShowWindow(form, SW_SHOWMAXIMIZED);
@@ -66,9 +68,14 @@ void MainGeometry::ToggleOptions(HWND form, const layout::Measure& measure) {
     GetWindowRect(form, &bounds);
     const int change = controls_.OptionsWidth(measure);
     bounds.right += options_shown_ ? change : -change;
-    bounds.right = std::max(bounds.right, bounds.left + Smallest(measure.dpi).cx);
+    bounds.right = std::max(bounds.right, bounds.left + Smallest(measure).cx);
     MoveTo(form, IsWindowVisible(form) ? WithinScreen(bounds) : bounds);
     Arrange(form, measure);
+}
+
+SIZE MainGeometry::Smallest(const layout::Measure& measure) const {
+    const int options = options_shown_ ? controls_.OptionsWidth(measure) : 0;
+    return {measure.Scaled(kMinimumWidth) + options, measure.Scaled(kMinimumHeight)};
 }
 
 void MainGeometry::Arrange(HWND form, const layout::Measure& measure) {

@@ -24,9 +24,8 @@ class MainGeometry {
     void ToggleOptions(HWND form, const layout::Measure& measure);
     /// Fits the panels and all controls into the form's client area.
     void Arrange(HWND form, const layout::Measure& measure);
-    static SIZE Smallest(int dpi) {
-        return {MulDiv(kMinimumWidth, dpi, 96), MulDiv(kMinimumHeight, dpi, 96)};
-    }
+    /// The smallest size now: the options panel, while it is shown, is not taken from the lists.
+    SIZE Smallest(const layout::Measure& measure) const;
 
   private:
     NewSpellControls& controls_;

@@ -121,15 +121,8 @@ void MainMenuCommands::mnuRemoveWord_Click(int index) {
         if (!word.empty()) parts_.commands.PutOnClipboard(word);
     } else if (index == MainMenus::kCopySuggestions) {
         parts_.commands.PutOnClipboard(parts_.suggestions.WholeList());
-    } else if (index == MainMenus::kRemove && !word.empty()) {
-        const Result<Path> file = parts_.suggestions.RemoveSelectedWord();
-        if (!file) {
-            parts_.commands.ShowError(text_id::kCannotWriteDictionary, file.error());
-            return;
-        }
-        const int text = file->empty() ? text_id::kNotRemoved : text_id::kRemoved;
-        parts_.status.Say(Filled(LoadResText(parts_.program.state, text),
-                                 {word, TextFromPath(file->filename())}));
+    } else if (index == MainMenus::kRemove) {
+        parts_.commands.RemoveSuggestion();
     }
 }
 

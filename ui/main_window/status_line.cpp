@@ -5,7 +5,8 @@ namespace wordhawk {
 void StatusLine::Say(const std::wstring& text, Undo undo) {
     const bool changed = controls_.lblStatus.Text() != text;
     controls_.lblStatus.SetText(text);
-    const bool offer = undo == Undo::LastAdd;
+    offered_ = undo;
+    const bool offer = undo != Undo::None;
     if (controls_.cmdUndoAdd.Visible() != offer) {
         controls_.cmdUndoAdd.SetVisible(offer);
         arrange_();

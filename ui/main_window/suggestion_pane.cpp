@@ -1,7 +1,6 @@
 #include "ui/main_window/suggestion_pane.h"
 
 #include "app/modRegs.h"
-#include "dict/custom_words.h"
 #include "dict/phonetic_key.h"
 #include "engine/session/captions.h"
 #include "engine/suggest/cLS.h"
@@ -59,6 +58,8 @@ void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_lis
     rules.search_mode = search_mode;
     const Suggestions found = FindSuggestions(parts_.dictionaries, word, rules);
     searched_ = word;
+    searched_score_ = rules.score_threshold;
+    searched_diversity_ = rules.diversity;
 
     following_ = true;
     // A tip on the screen told of a suggestion for another word.
@@ -142,11 +143,31 @@ std::wstring SuggestionPane::SelectedSuggestion() const {
 void SuggestionPane::TakeSelected() {
     NewSpellControls& c = parts_.controls;
     const int index = c.lstSug.Selected();
-    if (index < 0) return;
-    const auto text = TakeSuggestion(c.lstSug.Item(index), c.document.SelectedText());
-    if (!text) return;
+    const std::optional<std::wstring> text = TextToTake(index);
+    // What cannot be taken is not selected either.
+    if (!text) return Select(-1);
     c.lstSco.Select(index);
     c.txtChgTo.SetText(*text);
+}
+
+std::optional<std::wstring> SuggestionPane::TextToTake(int index) const {
+    if (index < 0) return std::nullopt;
+    return TakeSuggestion(parts_.controls.lstSug.Item(index),
+                          parts_.controls.document.SelectedText());
+}
+
+void SuggestionPane::txtChgTo_Change() {
+    const int index = parts_.controls.lstSug.Selected();
+    if (index >= 0 && TextToTake(index) != parts_.controls.txtChgTo.Text()) Select(-1);
+}
+
+void SuggestionPane::SelectUnder(POINT screen) {
+    ListBox& list = parts_.controls.lstSug;
+    ScreenToClient(list.Handle(), &screen);
+    const std::optional<int> row = list.At(screen);
+    if (!row) return;
+    Select(*row);
+    TakeSelected();
 }
 
 void SuggestionPane::Pick(int number) {
@@ -156,7 +177,8 @@ void SuggestionPane::Pick(int number) {
 }
 
 void SuggestionPane::lstSco_Click() {
-    parts_.controls.lstSug.Select(parts_.controls.lstSco.Selected());
+    Select(parts_.controls.lstSco.Selected());
+    TakeSelected();
 }
 
 void SuggestionPane::lstSco_DblClick() {
@@ -164,15 +186,10 @@ void SuggestionPane::lstSco_DblClick() {
     parts_.controls.lstSug.SetFocus();
 }
 
-Result<Path> SuggestionPane::RemoveSelectedWord() {
-    const Hourglass busy(parts_.ui);
+void SuggestionPane::RemoveSelected() {
     NewSpellControls& c = parts_.controls;
     const int index = c.lstSug.Selected();
-    if (index < 0 || IsPlaceholder(index)) return Path();
-    const std::wstring word = c.lstSug.Item(index);
-    const Result<Path> file = RemoveWordFromDictionaries(parts_.dictionaries, word);
-    if (!file) return file;
-    if (!file->empty()) parts_.dictionaries.ReloadFile(*file);
+    if (index < 0) return;
     c.lstSug.RemoveAt(index);
     c.lstSco.RemoveAt(index);
     if (c.lstSug.Count() == 0) {
@@ -180,7 +197,31 @@ Result<Path> SuggestionPane::RemoveSelectedWord() {
     } else {
         SetCount(c.lstSug.Count());
     }
-    return file;
+}
+
+void SuggestionPane::Refill() {
+    NewSpellControls& c = parts_.controls;
+    const int selected = c.lstSug.Selected();
+    const std::wstring chosen = selected < 0 ? std::wstring() : c.lstSug.Item(selected);
+    const std::wstring typed = c.txtChgTo.Text();
+    // Whose list is empty has nothing chosen, and nothing typed unless there is something.
+    const bool keep = selected < 0 && !typed.empty();
+    const std::wstring word = searched_;
+    FillSuggestions(word, SkipListed::No, parts_.dictionaries.CurrentSettings().SortBy);
+    if (keep) c.txtChgTo.SetText(typed);
+    if (const int again = chosen.empty() ? -1 : c.lstSug.FindExact(chosen); again >= 0) {
+        Select(again);
+        TakeSelected();
+    }
+}
+
+void SuggestionPane::SliderReleased() {
+    const Settings& settings = parts_.dictionaries.CurrentSettings();
+    if (searched_.empty() ||
+        (settings.ScoreValue == searched_score_ && settings.Diversity == searched_diversity_)) {
+        return;
+    }
+    Refill();
 }
 
 std::wstring SuggestionPane::WholeList() const {

@@ -6,7 +6,7 @@
 #include "ui/main_window/new_spell_controls.h"
 
 #include <cstdint>
-#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -39,9 +39,11 @@ class SuggestionPane {
     /// The n-th suggestion, from 1, as a click on it.
     void Pick(int number);
 
-    /// Removes the selected suggestion from the first dictionary that holds it, and from the lists.
-    /// Returns that dictionary's file; empty when none held it, an error when it cannot be written.
-    Result<Path> RemoveSelectedWord();
+    /// Searches again for the word that the lists are for, by the rules as they are now. What the
+    /// user chose or typed stays in the change-to box.
+    void Refill();
+    /// Removes the selected suggestion from the lists.
+    void RemoveSelected();
     bool HasSelection() const { return parts_.controls.lstSug.Selected() >= 0; }
     /// Empty when none is selected, or there are none.
     std::wstring SelectedSuggestion() const;
@@ -53,18 +55,27 @@ class SuggestionPane {
     void hsScore_Change();
     void hsdiversity_Change();
     void SaveSliders();
+    /// A slider was let go: the lists are filled anew if it was moved.
+    void SliderReleased();
+
+    /// Selects the suggestion under a point of the screen and takes it.
+    void SelectUnder(POINT screen);
+    /// The text of the change-to box changed: a suggestion that does not stand there is not
+    /// selected.
+    void txtChgTo_Change();
 
     void lstSco_Click();
     void lstSco_DblClick();
 
     /// Why the suggestion of a row scored what it did, for its tool tip.
     std::wstring Explanation(int row) const;
-    /// The word that the suggestions shown are for.
 
   private:
     void ShowNone();
     void Select(int index);
     void SetCount(int count);
+    /// What a suggestion would put into the change-to box; none for the placeholder.
+    std::optional<std::wstring> TextToTake(int index) const;
     void ShowTipUnderPointer(LPARAM position);
     void FollowScroll(const ListBox& leader, ListBox& follower);
     bool IsPlaceholder(int index) const;
@@ -75,7 +86,10 @@ class SuggestionPane {
     Subclass scores_subclass_;
     bool following_ = false;
     int tip_row_ = -1;
+    /// The word that the suggestions shown are for, and the sliders that they were searched with.
     std::wstring searched_;
+    int searched_score_ = 0;
+    int searched_diversity_ = 0;
 };
 
 }  // namespace wordhawk

@@ -48,7 +48,8 @@ TEST(Captions, TheQuestionBeforeAMainAddIsLaidOutInParagraphs) {
     EXPECT_EQ(captions::MainAddQuestion(state),
               L"Please confirm main dictionary add.\r\n\r\n"
               L"Result:\r\n\r\n"
-              L"  a.    Words added to your main dictionary cannot be deleted.\r\n\r\n"
+              L"  a.    Words added to your main dictionary cannot be deleted.\r\n"
+              L"  b.    Until the next word is added, Undo takes a single word out again.\r\n\r\n"
               L"Alternate:\r\n\r\n"
               L"a.    Words added to your custom dictionary can be deleted.\r\n\r\n"
               L"Do you want to add the word(s) to your main dictionary?");

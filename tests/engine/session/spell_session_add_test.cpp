@@ -158,16 +158,34 @@ TEST_F(SpellSessionAddTest, AWordThatWasThereBeforeCannotBeUndone) {
     EXPECT_EQ(ReadBytes(Custom()), before);
 }
 
-TEST_F(SpellSessionAddTest, AFailedAdditionIsReportedAndTheWalkGoesOn) {
+TEST_F(SpellSessionAddTest, AWordThatCouldNotBeAddedStaysWithTheMessage) {
     MakeFolder(Custom());  // a folder stands where the file should be
-    Begin(L"hello wrold", {L"hello", L"wrold"});
-    const SessionStep step = session_.Add(AddIndex::Custom);
-    EXPECT_TRUE(step.failure);
-    EXPECT_FALSE(step.added);
+    const Words words = {L"hello", L"wrold"};
+    Begin(L"hello wrold", words);
+    for (const SessionStep& step :
+         {session_.Add(AddIndex::Custom), session_.AddTo(L"CUSTOM.DIC")}) {
+        EXPECT_TRUE(step.failure);
+        EXPECT_EQ(step.kind, Kind::Nothing);
+        EXPECT_FALSE(step.added);
+    }
     EXPECT_FALSE(session_.LastAdded());
-    EXPECT_EQ(step.kind, Kind::NewWord);
+    EXPECT_EQ(session_.CurrentWord(), L"hello");
+    EXPECT_EQ(document_.SelectedText(), L"hello");
+    const SessionStep step = session_.AddAll(AddIndex::Custom, silent_);
+    EXPECT_TRUE(step.failure);
+    EXPECT_EQ(step.kind, Kind::NewWord) << "not finished: nothing was added";
+    EXPECT_EQ(session_.Words(), words);
+}
+
+TEST_F(SpellSessionAddTest, AddAllThatFailsHalfWayKeepsTheWordsThatAreStillUnknown) {
+    flags_.Set(kWarningFlag, 0);
+    MakeFolder(Main(L"wrold"));
+    Begin(L"hello wrold", {L"hello", L"wrold"});
+    const SessionStep step = session_.AddAll(AddIndex::Main, silent_);
+    EXPECT_TRUE(step.failure);
+    EXPECT_TRUE(step.refill);
+    EXPECT_EQ(session_.Words(), Words{L"wrold"});
     EXPECT_EQ(session_.CurrentWord(), L"wrold");
-    EXPECT_TRUE(session_.AddAll(AddIndex::Custom, silent_).failure);
 }
 
 }  // namespace

@@ -117,6 +117,9 @@ TEST_F(Corrections, AddToMainDoesNotAskWithTheWarningOff) {
     Click(Controls().cmdAdd[0]);
     EXPECT_THAT(fakes_.ui.shown, IsEmpty());
     EXPECT_THAT(Listed(), ElementsAre(L"dgo"));
+    EXPECT_EQ(Controls().lblStatus.Text(), L"Added 'teh' to the main dictionary.");
+    Click(Controls().cmdUndoAdd);
+    EXPECT_EQ(Controls().lblStatus.Text(), L"Took 'teh' out of the main dictionary.");
 }
 
 TEST_F(Corrections, AddToCustomSaysWhereAndCanBeTakenBack) {
@@ -235,13 +238,21 @@ TEST_F(Corrections, CopyDataTakesTheDocumentElseTheBox) {
     EXPECT_EQ(fakes_.clipboard.plain, L"other");
 }
 
-TEST_F(Corrections, ClickOnTheWordTakesTheSelectionCleaned) {
-    OpenWith(L"'Teh' dog");
-    Controls().document.Select({0, 5});
-    SendMessageW(Controls().pic1.Handle(), WM_COMMAND,
-                 MAKEWPARAM(Controls().lblNID.Id(), STN_CLICKED),
-                 reinterpret_cast<LPARAM>(Controls().lblNID.Handle()));
-    EXPECT_EQ(Controls().txtChgTo.Text(), L"Teh");
+TEST_F(Corrections, ClickOnTheWordTakesTheSelectionCleanedAsInACheck) {
+    struct Case {
+        const wchar_t* selected;
+        const wchar_t* taken;
+    };
+    OpenWith(L"teh");
+    for (const Case& row : {Case{L"'Teh'", L"Teh"}, Case{L"(hello", L"(hello"}, Case{L"TEH", L""},
+                            Case{L"abc123", L""}}) {
+        Controls().document.LoadPlainText({row.selected});
+        Controls().document.Select({0, Controls().document.Text().size()});
+        SendMessageW(Controls().pic1.Handle(), WM_COMMAND,
+                     MAKEWPARAM(Controls().lblNID.Id(), STN_CLICKED),
+                     reinterpret_cast<LPARAM>(Controls().lblNID.Handle()));
+        EXPECT_EQ(Controls().txtChgTo.Text(), row.taken);
+    }
 }
 
 TEST_F(Corrections, RecentChangesAreKeptBetweenRuns) {
@@ -276,7 +287,20 @@ TEST_F(Corrections, DraggedButtonsChangePlacesAndKeepThemWhenTheWindowGrows) {
     EXPECT_EQ(Controls().cmdAdd[0].Bounds().left, add.left);
 }
 
-TEST_F(Corrections, DictionaryThatCannotBeWrittenIsTold) {
+TEST_F(Corrections, AddGoesToAListedDictionary) {
+    const Path ini = folder_ / L"data" / "Wordhawk.ini";
+    modSect::WriteSetting(L"Dictionarys", L"0", L"", ini);
+    modSect::WriteSetting(L"Dictionarys", L"1", L"TWO.DIC", ini);
+    Setting(L"CustomDic", L"GONE.DIC");
+    OpenWith(L"teh dgo");
+    EXPECT_THAT(Controls().cboDicts.Texts(), ElementsAre(L"TWO.DIC"));
+    EXPECT_EQ(Controls().cboDicts.Selected(), 0);
+    Click(Controls().cmdAdd[1]);
+    EXPECT_NE(ReadBytes(Custom(L"TWO.DIC")).find("teh,"), std::string::npos);
+    EXPECT_FALSE(IsFile(Custom(L"GONE.DIC")));
+}
+
+TEST_F(Corrections, DictionaryThatCannotBeWrittenIsToldAndTheWordStays) {
     OpenWith(L"teh dgo");
     const Path file = Custom(L"CUSTOM.DIC");
     WriteBytes(file, "abc,12345\r\n");
@@ -287,6 +311,9 @@ TEST_F(Corrections, DictionaryThatCannotBeWrittenIsTold) {
     EXPECT_NE(fakes_.ui.shown[0].text.find(L"CUSTOM.DIC"), std::wstring::npos);
     EXPECT_EQ(ReadBytes(file), "abc,12345\r\n");
     EXPECT_FALSE(Controls().cmdUndoAdd.Visible());
+    EXPECT_THAT(Listed(), ElementsAre(L"teh", L"dgo"));
+    EXPECT_EQ(Controls().lblNID.Text(), L"teh");
+    EXPECT_EQ(Selected(), L"teh");
 }
 
 }  // namespace

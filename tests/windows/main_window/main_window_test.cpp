@@ -75,14 +75,30 @@ TEST_F(MainWindow, CaptionsAreComposedOfTheTextsAtLoad) {
     EXPECT_EQ(c.cmdSpellcheck.ToolTipText(), L"Check the document (F7)");
 }
 
-TEST_F(MainWindow, CaptionsFollowTheLanguageFile) {
-    const Path file = folder_ / L"data" / "Resources" / "1033" / "lang1033.ini";
-    MakeFolder(file.parent_path());
-    modSect::WriteSetting(L"Wordhawk", L"121", L"Ersetzen", file);
-    modSect::WriteSetting(L"Wordhawk", L"122", L"Alle er&setzen", file);
-    Open();
-    EXPECT_EQ(Controls().cmdChange.Text(), L"&Ersetzen");
-    EXPECT_EQ(Controls().cmdChangeAll.Text(), L"Alle er&setzen");
+TEST_F(MainWindow, CaptionsAndAccessKeysFollowTheLanguageFile) {
+    struct Case {
+        const wchar_t* locale;
+        const wchar_t* change;
+        const wchar_t* options;
+        const wchar_t* change_caption;
+        const wchar_t* options_caption;
+    };
+    const Case cases[] = {
+        {L"1031", L"Ersetzen", L"&Optionen", L"&Ersetzen", L"&Optionen"},
+        {L"1036", L"Re&mplacer", L"R&&D", L"Re&mplacer", L"&R&&D"},
+    };
+    for (const Case& row : cases) {
+        const std::wstring locale = row.locale;
+        const Path file = folder_ / L"data" / "Resources" / PathFromText(locale) /
+                          PathFromText(L"lang" + locale + L".ini");
+        MakeFolder(file.parent_path());
+        modSect::WriteSetting(L"Wordhawk", L"121", row.change, file);
+        modSect::WriteSetting(L"Wordhawk", L"180", row.options, file);
+        Setting(L"Language", row.locale);
+        Open();
+        EXPECT_EQ(Controls().cmdChange.Text(), row.change_caption);
+        EXPECT_EQ(Controls().cmdOptions.Text(), row.options_caption);
+    }
 }
 
 TEST_F(MainWindow, AutomationHidesCheckingAndPreferencesAndLeavesTheWindowToBeFound) {
@@ -120,6 +136,12 @@ TEST_F(MainWindow, CannotBeMadeSmallerThanItsLimit) {
     Resize(50, 50);
     EXPECT_EQ(WidthOf(), MulDiv(336, Form().Dpi(), 96));
     EXPECT_EQ(HeightOf(), MulDiv(500, Form().Dpi(), 96));
+    const int list = static_cast<int>(Controls().lstSug.Bounds().right);
+    Click(Controls().cmdOptions);
+    Resize(50, 50);
+    EXPECT_EQ(Controls().lstSug.Bounds().right, list) << "the options take no room from the lists";
+    Click(Controls().cmdOptions);
+    EXPECT_EQ(WidthOf(), MulDiv(336, Form().Dpi(), 96));
 }
 
 TEST_F(MainWindow, NothingOverlapsOrIsCutAtAnySize) {

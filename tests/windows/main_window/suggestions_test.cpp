@@ -19,6 +19,27 @@ class SuggestionControls : public MainWindowTest {
         SendMessageW(GetParent(slider.Handle()), WM_HSCROLL, TB_THUMBTRACK,
                      reinterpret_cast<LPARAM>(slider.Handle()));
     }
+    void LetGo(Slider& slider) {
+        SendMessageW(GetParent(slider.Handle()), WM_HSCROLL, TB_ENDTRACK,
+                     reinterpret_cast<LPARAM>(slider.Handle()));
+        Pump();
+    }
+    /// Presses and releases a button of the mouse on a row of a list.
+    void ClickRow(ListBox& list, int row, UINT down, UINT up) {
+        RECT bounds{};
+        SendMessageW(list.Handle(), LB_GETITEMRECT, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&bounds));
+        const LPARAM at = MAKELPARAM(bounds.left + 3, (bounds.top + bounds.bottom) / 2);
+        SendMessageW(list.Handle(), down, 0, at);
+        SendMessageW(list.Handle(), up, 0, at);
+        Pump();
+    }
+    void ExpectSelectionAgreesWithBox() {
+        const int row = Controls().lstSug.Selected();
+        EXPECT_EQ(Controls().lstSco.Selected(), row);
+        if (row < 0) return;
+        EXPECT_EQ(Controls().txtChgTo.Text(), Controls().lstSug.Item(row));
+    }
     void Suggest(std::wstring_view word) {
         Controls().txtChgTo.SetText(word);
         Click(Controls().cmdSuggestions);
@@ -103,6 +124,47 @@ TEST_F(SuggestionControls, PressOnTheSelectedSuggestionTakesItAgain) {
     EXPECT_EQ(Controls().txtChgTo.Text(), L"receive");
 }
 
+TEST_F(SuggestionControls, SelectionAndBoxAgreeWhateverSelectsOrTypes) {
+    Setting(L"ScoreBox", L"1");
+    Setting(L"ScoreValue", L"40");
+    Setting(L"Diversity", L"3");
+    OpenWith(L"thex");
+    ASSERT_GT(Controls().lstSug.Count(), 3);
+    ClickRow(Controls().lstSug, 2, WM_RBUTTONDOWN, WM_RBUTTONUP);
+    EXPECT_EQ(Controls().lstSug.Selected(), 2);
+    ExpectSelectionAgreesWithBox();
+    ClickRow(Controls().lstSco, 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+    EXPECT_EQ(Controls().lstSug.Selected(), 1);
+    ExpectSelectionAgreesWithBox();
+    Controls().txtChgTo.SetText(L"mine");
+    EXPECT_EQ(Controls().lstSug.Selected(), -1);
+    ExpectSelectionAgreesWithBox();
+    ClickRow(Controls().lstSug, 0, WM_LBUTTONDOWN, WM_LBUTTONUP);
+    EXPECT_EQ(Controls().lstSug.Selected(), 0);
+    ExpectSelectionAgreesWithBox();
+}
+
+TEST_F(SuggestionControls, PlaceholderIsNeverSelected) {
+    Setting(L"ScoreBox", L"1");
+    OpenWith(L"xqzwv");
+    ASSERT_THAT(Suggested(), ElementsAre(L"(no suggestions)"));
+    const auto expect_none = [&] {
+        EXPECT_EQ(Controls().lstSug.Selected(), -1);
+        EXPECT_EQ(Controls().lstSco.Selected(), -1);
+    };
+    ClickRow(Controls().lstSug, 0, WM_LBUTTONDOWN, WM_LBUTTONUP);
+    expect_none();
+    ClickRow(Controls().lstSco, 0, WM_LBUTTONDOWN, WM_LBUTTONUP);
+    expect_none();
+    ClickRow(Controls().lstSug, 0, WM_RBUTTONDOWN, WM_RBUTTONUP);
+    expect_none();
+    EXPECT_FALSE(fakes_.menus.enabled[1]);
+    EXPECT_FALSE(fakes_.menus.enabled[3]);
+    Controls().lstSug.SetFocus();
+    Press(VK_DOWN);
+    expect_none();
+}
+
 TEST_F(SuggestionControls, AltAndADigitPickASuggestion) {
     Setting(L"ScoreValue", L"40");
     Setting(L"Diversity", L"3");
@@ -131,6 +193,34 @@ TEST_F(SuggestionControls, SlidersShowAndSteerTheSearch) {
     EXPECT_THAT(Suggested(), ElementsAre(L"(no suggestions)"));
     Suggest(L"receive");
     EXPECT_THAT(Suggested(), ElementsAre(L"receive"));
+}
+
+TEST_F(SuggestionControls, SliderLetGoFillsTheListAnewAndKeepsWhatWasChosen) {
+    OpenWith(L"thex");
+    const std::vector<std::wstring> before = Suggested();
+    Move(Controls().hsScore, 40);
+    EXPECT_EQ(Suggested(), before) << "while it is held";
+    LetGo(Controls().hsScore);
+    ASSERT_GT(Suggested().size(), before.size());
+    ChooseIn(Controls().lstSug, 2);
+    const std::wstring chosen = Controls().txtChgTo.Text();
+    Move(Controls().hsdiversity, 3);
+    LetGo(Controls().hsdiversity);
+    EXPECT_EQ(Controls().txtChgTo.Text(), chosen);
+    ExpectSelectionAgreesWithBox();
+    Controls().txtChgTo.SetText(L"typed");
+    Move(Controls().hsScore, 100);
+    LetGo(Controls().hsScore);
+    EXPECT_THAT(Suggested(), ElementsAre(L"(no suggestions)"));
+    EXPECT_EQ(Controls().txtChgTo.Text(), L"typed");
+}
+
+TEST_F(SuggestionControls, SwitchIsSavedAsTheCheckMarkThatItIs) {
+    Setting(L"ExtraDiversity", L"5");
+    Open();
+    EXPECT_TRUE(Form().Menus().mnuDiversity->Checked());
+    Form().Unload();
+    EXPECT_EQ(StoredSetting(L"Settings", L"ExtraDiversity"), L"1");
 }
 
 TEST_F(SuggestionControls, SlidersAndSwitchAreSavedWhenTheWindowCloses) {
@@ -171,6 +261,29 @@ TEST_F(SuggestionControls, RemovingTheOnlySuggestionTakesItOutOfItsDictionary) {
     EXPECT_EQ(Controls().lblCnt.Text(), L"0 - Sugg&estions:");
     EXPECT_EQ(ReadBytes(Custom(L"CUSTOM.DIC")), "aaa,65000\r\n");
     EXPECT_EQ(Controls().lblStatus.Text(), L"Removed 'xqzwvi' from CUSTOM.DIC.");
+}
+
+TEST_F(SuggestionControls, RemovingAMainWordAsksAndCanBeTakenBack) {
+    OpenWith(L"recieve");
+    const Path main = program_->dictionaries.MainPathFor(L"receive");
+    const std::string before = ReadBytes(main);
+    fakes_.menus.choose = 1;
+    fakes_.ui.answer = Answer::No;
+    RightClick(Controls().lstSug);
+    ASSERT_EQ(fakes_.ui.shown.size(), 1u);
+    EXPECT_EQ(ReadBytes(main), before);
+    EXPECT_THAT(Suggested(), ElementsAre(L"receive"));
+
+    fakes_.ui.answer = Answer::Yes;
+    RightClick(Controls().lstSug);
+    EXPECT_EQ(ReadBytes(main).find("receive,"), std::string::npos);
+    EXPECT_EQ(Controls().lblStatus.Text(), L"Removed 'receive' from the main dictionary.");
+    EXPECT_THAT(Suggested(), ElementsAre(L"(no suggestions)"));
+    Click(Controls().cmdUndoAdd);
+    EXPECT_EQ(ReadBytes(main), before);
+    EXPECT_EQ(Controls().lblStatus.Text(), L"Put 'receive' back into the main dictionary.");
+    EXPECT_THAT(Suggested(), ElementsAre(L"receive"));
+    EXPECT_FALSE(Controls().cmdUndoAdd.Visible());
 }
 
 TEST_F(SuggestionControls, MenuOfTheListCopiesAndNeedsASelection) {
