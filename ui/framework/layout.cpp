@@ -331,7 +331,8 @@ void Arrange(const layout::Node& node, const RECT& area, const layout::Measure& 
         return EqualRect(&bounds, &placed.bounds) != FALSE;
     });
     HDWP batch = BeginDeferWindowPos(static_cast<int>(placements.size()));
-    constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE;
+    // Copying what was drawn elsewhere leaves parts of it behind under Wine.
+    constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
     for (const layout::Placement& placed : placements) {
         const RECT& bounds = placed.bounds;
         const int width = std::max(0, static_cast<int>(bounds.right - bounds.left));

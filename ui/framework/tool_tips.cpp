@@ -25,9 +25,10 @@ void ToolTips::Set(HWND control, const std::wstring& text) {
         texts_.erase(control);
         return;
     }
-    std::wstring& kept = texts_[control];
-    kept = text;
-    tool.lpszText = kept.data();
+    texts_[control] = text;
+    // Wine makes the tip's window too narrow for the last character: let it be a blank.
+    std::wstring shown = text + L'\u00A0';
+    tool.lpszText = shown.data();
     SendMessageW(window_, known ? TTM_UPDATETIPTEXTW : TTM_ADDTOOLW, 0,
                  reinterpret_cast<LPARAM>(&tool));
 }

@@ -84,10 +84,10 @@ void MainGeometry::Arrange(HWND form, const layout::Measure& measure) {
     const int options = options_shown_ ? controls_.OptionsWidth(measure) : 0;
     const int main_width = std::max(0, static_cast<int>(client.right) - options);
     const int height = static_cast<int>(client.bottom);
-    SetWindowPos(controls_.pic1.Handle(), nullptr, 0, 0, main_width, height,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-    SetWindowPos(controls_.pic2.Handle(), nullptr, main_width, 0, options, height,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    // What was drawn for another place or size is no good here, and Wine would keep it.
+    constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
+    SetWindowPos(controls_.pic1.Handle(), nullptr, 0, 0, main_width, height, kFlags);
+    SetWindowPos(controls_.pic2.Handle(), nullptr, main_width, 0, options, height, kFlags);
     controls_.ArrangeMain(measure);
     if (options_shown_) controls_.ArrangeOptions(measure);
 }
