@@ -23,15 +23,21 @@ constexpr CodeRange kCodeRanges[] = {
     {39, 123, 157}, {74, 160, 191}, {106, 215, 215}, {107, 247, 248},
 };
 
-/// The stored text, whole: reading it as a value would cut off its last character.
-std::wstring StoredFlags(const Path& settings_file) {
-    for (const std::wstring& entry : modSect::ReadSection(settings_file, kSection)) {
+/// The flags of a settings section; the text is taken whole, since reading it as a value would cut
+/// off its last character.
+std::string FlagsIn(const std::vector<std::wstring>& section) {
+    std::string flags = DelimiterFlagStore::DefaultFlags();
+    for (const std::wstring& entry : section) {
         const std::size_t equals = entry.find(L'=');
         if (equals == entry.npos) continue;
         const std::wstring_view key = std::wstring_view(entry).substr(0, equals);
-        if (EqualIgnoringCase(Trim(key), kKey)) return std::wstring(Trim(entry.substr(equals + 1)));
+        if (!EqualIgnoringCase(Trim(key), kKey)) continue;
+        const std::wstring_view stored = Trim(std::wstring_view(entry).substr(equals + 1));
+        const std::size_t count = std::min(stored.size(), flags.size());
+        for (std::size_t i = 0; i < count; ++i) flags[i] = stored[i] == L'1' ? '1' : '0';
+        break;
     }
-    return {};
+    return flags;
 }
 
 }  // namespace
@@ -44,15 +50,22 @@ const std::string& DelimiterFlagStore::DefaultFlags() {
 
 void DelimiterFlagStore::Load(const Path& settings_file) {
     settings_file_ = settings_file;
-    flags_ = DefaultFlags();
-    const std::wstring stored = StoredFlags(settings_file);
-    const std::size_t count = std::min(stored.size(), flags_.size());
-    for (std::size_t i = 0; i < count; ++i) flags_[i] = stored[i] == L'1' ? '1' : '0';
+    flags_ = stored_ = FlagsIn(modSect::ReadSection(settings_file, kSection));
 }
 
-bool DelimiterFlagStore::Save() const {
-    return modSect::WriteSetting(kSection, kKey, std::wstring(flags_.begin(), flags_.end()),
-                                 settings_file_);
+bool DelimiterFlagStore::Save() {
+    std::string merged;
+    const Result<void> saved =
+        modSect::ChangeProfile(settings_file_, [&](modSect::Change& change) -> Result<void> {
+            merged = FlagsIn(change.Section(kSection));
+            for (std::size_t i = 0; i < merged.size(); ++i) {
+                if (flags_[i] != stored_[i]) merged[i] = flags_[i];
+            }
+            change.Set(kSection, kKey, std::wstring(merged.begin(), merged.end()));
+            return {};
+        });
+    if (saved) flags_ = stored_ = merged;
+    return saved.has_value();
 }
 
 int DelimiterFlagStore::Get(int index) const {

@@ -21,8 +21,9 @@ class DelimiterFlagStore {
     /// Reads the flags from key "DSA" of section "Settings"; a missing or short text is filled up
     /// from the default.
     void Load(const Path& settings_file);
-    /// Writes all 255 flags. False when the file could not be written.
-    bool Save() const;
+    /// Writes all 255 flags: those set since Load, the others as the file has them by now. False
+    /// when the file could not be written.
+    bool Save();
 
     /// `index` 1 to 255; anything else is 0 / ignored.
     int Get(int index) const;
@@ -31,6 +32,8 @@ class DelimiterFlagStore {
   private:
     Path settings_file_;
     std::string flags_ = DefaultFlags();
+    /// As they were in the file when it was read or written last.
+    std::string stored_ = DefaultFlags();
 };
 
 /// The single-byte code that delimiter flag 1 to 108 stands for.

@@ -86,6 +86,39 @@ constexpr std::array kRows = {
     Row<&Settings::LettersStay>(L"LettersStay", L"0"),
 };
 
+bool Holds(std::span<const std::wstring> names, std::wstring_view name) {
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::wstring& other) { return EqualIgnoringCase(other, name); });
+}
+
+/// The names that a section's entries give, empty ones left out.
+std::vector<std::wstring> NamesOf(const std::vector<std::wstring>& entries) {
+    std::vector<std::wstring> names;
+    for (const std::wstring& entry : entries) {
+        const std::size_t equals = entry.find(L'=');
+        if (equals == entry.npos || equals + 1 == entry.size()) continue;
+        names.push_back(entry.substr(equals + 1));
+    }
+    return names;
+}
+
+/// Numbers the names, or CUSTOM.DIC where there are none. One that the file's page cannot hold is
+/// refused: it would come back as another name.
+Result<void> WriteNames(const ProgramState& state, modSect::Change& change,
+                        std::span<const std::wstring> names) {
+    const std::wstring default_name(kDefaultDictionary);
+    if (names.empty()) names = std::span(&default_name, 1);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (!change.CanHold(names[i])) {
+            return tl::unexpected(Error{L"the settings file cannot hold the name " + names[i] +
+                                            L": its code page lacks a letter of it",
+                                        state.SettingsFile});
+        }
+        change.Set(kDictionariesSection, std::to_wstring(i), names[i]);
+    }
+    return {};
+}
+
 }  // namespace
 
 std::span<const SettingRow> Rows() { return kRows; }
@@ -98,23 +131,23 @@ const SettingRow* FindRow(std::wstring_view key) {
 
 Settings LoadSettings(const ProgramState& state) {
     Settings settings;
+    std::vector<const SettingRow*> rows;
+    std::vector<modSect::KeyAndValue> keys;
     for (const SettingRow& row : kRows) {
         if (row.program_only && !state.ProgramMode) continue;
-        row.assign(settings, modSect::ReadSetting(kSettingsSection, row.key, row.default_text,
-                                                  state.SettingsFile));
+        rows.push_back(&row);
+        keys.push_back({std::wstring(row.key), std::wstring(row.default_text)});
     }
+    const std::vector<std::wstring> values =
+        modSect::ReadSettings(kSettingsSection, keys, state.SettingsProfile());
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i]->assign(settings, values[i]);
     LoadCustomDictionaryList(state, settings);
     return settings;
 }
 
 void LoadCustomDictionaryList(const ProgramState& state, Settings& settings) {
-    settings.CustomDictionaries.clear();
-    for (const std::wstring& entry :
-         modSect::ReadSection(state.SettingsFile, kDictionariesSection)) {
-        const std::size_t equals = entry.find(L'=');
-        if (equals == entry.npos || equals + 1 == entry.size()) continue;
-        settings.CustomDictionaries.push_back(entry.substr(equals + 1));
-    }
+    settings.CustomDictionaries =
+        NamesOf(modSect::ReadSection(state.SettingsProfile(), kDictionariesSection));
     if (settings.CustomDictionaries.empty()) {
         settings.CustomDictionaries.emplace_back(kDefaultDictionary);
         settings.CustomDic = kDefaultDictionary;
@@ -122,17 +155,39 @@ void LoadCustomDictionaryList(const ProgramState& state, Settings& settings) {
 }
 
 bool SaveCustomDictionaryList(const ProgramState& state, std::span<const std::wstring> names) {
-    const std::wstring default_name(kDefaultDictionary);
-    if (names.empty()) names = std::span(&default_name, 1);
-    std::vector<modSect::KeyAndValue> values;
-    for (const std::wstring& name : names) values.push_back({std::to_wstring(values.size()), name});
-    return modSect::WriteSettings(kDictionariesSection, values, state.SettingsFile);
+    const auto write = [&](modSect::Change& change) { return WriteNames(state, change, names); };
+    return modSect::ChangeProfile(state.SettingsProfile(), write).has_value();
+}
+
+bool MergeCustomDictionaryList(const ProgramState& state, std::span<const std::wstring> names,
+                               std::span<const std::wstring> known) {
+    const auto merge = [&](modSect::Change& change) {
+        std::vector<std::wstring> list(names.begin(), names.end());
+        for (std::wstring& name : NamesOf(change.Section(kDictionariesSection))) {
+            if (!Holds(known, name) && !Holds(list, name)) list.push_back(std::move(name));
+        }
+        return WriteNames(state, change, list);
+    };
+    return modSect::ChangeProfile(state.SettingsProfile(), merge).has_value();
+}
+
+Result<void> ActivateCustomDictionary(const ProgramState& state, Settings& settings,
+                                      std::wstring_view name) {
+    return modSect::ChangeProfile(
+        state.SettingsProfile(), [&](modSect::Change& change) -> Result<void> {
+            std::vector<std::wstring> names = NamesOf(change.Section(kDictionariesSection));
+            if (names.empty()) names.emplace_back(kDefaultDictionary);
+            if (!Holds(names, name)) names.emplace_back(name);
+            const Result<void> written = WriteNames(state, change, names);
+            if (written) settings.CustomDictionaries = std::move(names);
+            return written;
+        });
 }
 
 bool SaveSetting(const ProgramState& state, const Settings& settings, std::wstring_view key) {
     const SettingRow* row = FindRow(key);
     return row && modSect::WriteSetting(kSettingsSection, row->key, row->text(settings),
-                                        state.SettingsFile);
+                                        state.SettingsProfile());
 }
 
 }  // namespace wordhawk::modRegs

@@ -78,8 +78,19 @@ Settings LoadSettings(const ProgramState& state);
 void LoadCustomDictionaryList(const ProgramState& state, Settings& settings);
 
 /// Writes the list under keys "0", "1", ...; an empty list is written as CUSTOM.DIC. Keys of an
-/// earlier, longer list stay in the file and are read again at the next start.
+/// earlier, longer list stay in the file and are read again at the next start. False when the
+/// file could not be written, or cannot hold a name.
 bool SaveCustomDictionaryList(const ProgramState& state, std::span<const std::wstring> names);
+
+/// The same by a caller who read the list, as `known`, some time ago: names that another program
+/// put on it since stay on it, behind the caller's.
+bool MergeCustomDictionaryList(const ProgramState& state, std::span<const std::wstring> names,
+                               std::span<const std::wstring> known);
+
+/// Puts a name on the list as it stands in the file now, unless it is there already, and reads the
+/// list into `settings`. Errors: as above.
+Result<void> ActivateCustomDictionary(const ProgramState& state, Settings& settings,
+                                      std::wstring_view name);
 
 /// Writes one value as it stands in `settings`. False when the file could not be written.
 bool SaveSetting(const ProgramState& state, const Settings& settings, std::wstring_view key);

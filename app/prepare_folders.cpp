@@ -17,6 +17,9 @@ void PrepareFolders(ProgramState& state) {
     const int locale = state.LocaleOverride != 0 ? state.LocaleOverride : SystemDefaultLocale();
     state.LanguageId = std::to_wstring(locale);
     if (state.DataFolder.empty()) state.DataFolder = ComputeDataFolder();
+    // Where no folder is known, nothing is made: least of all in the folder that happens to be the
+    // current one.
+    if (state.DataFolder.empty()) return;
     state.SettingsFile = state.DataFolder / "Wordhawk.ini";
 
     const Path dictionaries = state.DataFolder / "Dictionarys";

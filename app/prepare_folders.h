@@ -10,7 +10,8 @@ namespace wordhawk {
 Path ComputeDataFolder(const Path& program_folder = ProgramFolder());
 
 /// Makes the folder tree under `state.DataFolder` (computed when empty), and sets LanguageId,
-/// LanguageDictFolder, SettingsFile and FoldersReady. A folder that cannot be made is skipped. The
+/// LanguageDictFolder, SettingsFile and FoldersReady. A folder that cannot be made is skipped;
+/// where the system knows no place for the data folder, it stays empty and nothing is made. The
 /// caller chooses the language afterwards.
 void PrepareFolders(ProgramState& state);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/files.h"
+#include "platform/modSect.h"
 #include "platform/text.h"
 
 #include <string>
@@ -41,6 +42,8 @@ struct ProgramState {
     /// Asks Add All and import to stop; cleared when they start.
     bool StopFlag = false;
 
+    /// The settings file, read and written in the page in force.
+    modSect::ProfileFile SettingsProfile() const { return {SettingsFile, CodePage}; }
     Path CustomFolder() const { return DataFolder / "Dictionarys" / "Custom"; }
     Path ResourcesFolder() const { return DataFolder / "Resources"; }
 };

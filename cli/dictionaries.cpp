@@ -13,17 +13,29 @@ int Fail(const std::string& line) {
     return kExitFailed;
 }
 
-std::size_t CountEntries(const Path& file) {
-    auto bytes = ReadWholeFile(file);
-    return bytes ? DictionaryFile(std::move(*bytes)).CountEntries() : 0;
-}
+/// Counts the words of files, and tells of those that cannot be read.
+class WordCounter {
+  public:
+    std::size_t CountFile(const Path& file) {
+        auto bytes = ReadWholeFile(file);
+        if (bytes) return DictionaryFile(std::move(*bytes)).CountEntries();
+        ShowMessageLine(MessageLine(bytes.error()));
+        failed_ = true;
+        return 0;
+    }
 
-std::size_t CountEntriesOfFolder(const Path& folder) {
-    std::size_t words = 0;
-    for (const std::wstring& name : ListFiles(folder, L".dic"))
-        words += CountEntries(folder / PathFromText(name));
-    return words;
-}
+    std::size_t CountFolder(const Path& folder) {
+        std::size_t words = 0;
+        for (const std::wstring& name : ListFiles(folder, L".dic"))
+            words += CountFile(folder / PathFromText(name));
+        return words;
+    }
+
+    bool Failed() const { return failed_; }
+
+  private:
+    bool failed_ = false;
+};
 
 bool Holds(const std::vector<std::wstring>& names, std::wstring_view name) {
     return std::any_of(names.begin(), names.end(),
@@ -37,11 +49,9 @@ int Activate(Program& program, const std::string& argument) {
     if (!IsFile(program.dictionaries.CustomPath(*name))) {
         return Fail(MessageLine(argument, "there is no such custom dictionary"));
     }
-    std::vector<std::wstring>& names = program.settings.CustomDictionaries;
-    if (!Holds(names, *name)) names.push_back(*name);
-    if (!modRegs::SaveCustomDictionaryList(program.state, names)) {
-        return Fail(MessageLine(PathForMessage(program.state.SettingsFile), "cannot be written"));
-    }
+    const auto activated =
+        modRegs::ActivateCustomDictionary(program.state, program.settings, *name);
+    if (!activated) return Fail(MessageLine(activated.error()));
     return kExitFine;
 }
 
@@ -54,20 +64,22 @@ int RunDictionaries(const GlobalOptions& global, const std::string& activate) {
         if (const int code = Activate(program, activate); code != kExitFine) return code;
     }
     Output out(stdout);
+    WordCounter counter;
     const Path root = program.state.DataFolder / "Dictionarys";
     for (const std::wstring& folder : ListFolders(root)) {
         if (EqualIgnoringCase(folder, L"Custom")) continue;
-        const std::size_t words = CountEntriesOfFolder(root / PathFromText(folder));
+        const std::size_t words = counter.CountFolder(root / PathFromText(folder));
         const bool in_use = folder == program.state.LanguageId;
         if (words == 0 && !in_use) continue;
         out << "main\t" << folder << '\t' << words << '\t' << (in_use ? "*\n" : "\n");
     }
     for (const std::wstring& name : ListFiles(program.state.CustomFolder(), L".dic")) {
-        out << "custom\t" << name << '\t' << CountEntries(program.dictionaries.CustomPath(name))
-            << '\t' << (Holds(program.settings.CustomDictionaries, name) ? "*\n" : "\n");
+        out << "custom\t" << name << '\t'
+            << counter.CountFile(program.dictionaries.CustomPath(name)) << '\t'
+            << (Holds(program.settings.CustomDictionaries, name) ? "*\n" : "\n");
     }
     out.Flush();
-    return out.Failed() ? kExitFailed : kExitFine;
+    return out.Failed() || counter.Failed() ? kExitFailed : kExitFine;
 }
 
 }  // namespace wordhawk

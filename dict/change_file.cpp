@@ -4,15 +4,8 @@
 #include "platform/replace_file.h"
 #include "platform/single_writer.h"
 
-#include <filesystem>
-
 namespace wordhawk {
 namespace {
-
-bool IsMissing(const Path& path) {
-    std::error_code failed;
-    return std::filesystem::status(path, failed).type() == std::filesystem::file_type::not_found;
-}
 
 Path FolderOf(const Path& path) { return path.has_parent_path() ? path.parent_path() : Path("."); }
 
@@ -24,33 +17,39 @@ Result<bool> ChangeDictionaryFile(const Path& path, const FileEdit& edit) {
     const Path folder = FolderOf(path);
     if (!MakeFolder(folder))
         return tl::unexpected(Error{L"the dictionary's folder cannot be made", folder});
-    const Result<SingleWriter> lock = SingleWriter::Acquire(folder);
-    if (!lock) return tl::unexpected(lock.error());
+    const Result<LockedFile> locked = LockForChange(path);
+    if (!locked) return tl::unexpected(locked.error());
+    // Named as the caller knows it, wherever links lead.
+    const auto failed = [&](const Error& error) { return tl::unexpected(Error{error.what, path}); };
 
     std::string bytes;
-    if (!IsMissing(path)) {
+    if (!IsMissing(locked->path)) {
         // Never taken for empty: writing would then throw away what could not be read.
-        Result<std::string> read = ReadWholeFile(path);
-        if (!read) return tl::unexpected(read.error());
+        Result<std::string> read = ReadWholeFile(locked->path);
+        if (!read) return failed(read.error());
         bytes = std::move(*read);
     }
     const std::optional<std::string> changed = edit(bytes);
     if (!changed) return false;
-    const Result<void> replaced = ReplaceFileContents(path, *changed);
-    if (!replaced) return tl::unexpected(replaced.error());
+    const Result<void> replaced = ReplaceFileContents(locked->path, *changed);
+    if (!replaced) return failed(replaced.error());
     return true;
 }
 
-Result<bool> RemoveEntryFromFile(const Path& path, std::string_view entry) {
-    const FileEdit edit = [entry](std::string_view bytes) {
-        return dictionary_edit::WithoutEntry(bytes, entry);
-    };
+Result<bool> FileHoldsEntry(const Path& path, std::string_view entry) {
     if (IsMissing(path) || IsFolder(path)) return false;
+    const Result<std::string> bytes = ReadWholeFile(path);
+    if (!bytes) return tl::unexpected(bytes.error());
+    return dictionary_edit::WithoutEntry(*bytes, entry).has_value();
+}
+
+Result<bool> RemoveEntryFromFile(const Path& path, std::string_view entry) {
     // A first look without the lock: a dictionary that nobody may write can still be passed by.
-    const Result<std::string> seen = ReadWholeFile(path);
-    if (!seen) return tl::unexpected(seen.error());
-    if (!edit(*seen)) return false;
-    return ChangeDictionaryFile(path, edit);
+    const Result<bool> holds = FileHoldsEntry(path, entry);
+    if (!holds.value_or(false)) return holds;
+    return ChangeDictionaryFile(path, [entry](std::string_view bytes) {
+        return dictionary_edit::WithoutEntry(bytes, entry);
+    });
 }
 
 }  // namespace wordhawk

@@ -17,6 +17,9 @@ using FileEdit = std::function<std::optional<std::string>(std::string_view bytes
 /// there but cannot be read, or it cannot be locked or replaced; it is then as it was.
 Result<bool> ChangeDictionaryFile(const Path& path, const FileEdit& edit);
 
+/// Whether a line of the file equals `entry`; a missing file has none. Errors: it cannot be read.
+Result<bool> FileHoldsEntry(const Path& path, std::string_view entry);
+
 /// Removes the first line equal to `entry`; a missing file has none. Returns whether there was one.
 Result<bool> RemoveEntryFromFile(const Path& path, std::string_view entry);
 

@@ -12,7 +12,7 @@ std::wstring LoadResText(const ProgramState& state, int id, std::wstring_view pr
         text += BuiltInText(id);
     } else {
         text += modSect::ReadSetting(kTextSection, std::to_wstring(id), BuiltInText(id),
-                                     state.LanguageFile);
+                                     {state.LanguageFile, state.CodePage});
     }
     return text.append(suffix);
 }

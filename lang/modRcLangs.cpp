@@ -24,6 +24,16 @@ Path LanguageFilePath(const ProgramState& state, std::wstring_view locale, std::
            PathFromText(std::wstring(base) + L".ini");
 }
 
+std::wstring ChosenLanguage(const ProgramState& state) {
+    return modSect::ReadSetting(modRegs::kSettingsSection, kLanguageKey, {}, state.SettingsFile);
+}
+
+/// The locale number wished for: the user's choice, else the one in force, else English.
+int LocaleFor(const ProgramState& state, std::wstring_view chosen) {
+    if (const auto number = WholeNumber(chosen)) return *number;
+    return WholeNumber(state.LanguageId).value_or(kEnglish);
+}
+
 /// Writes the texts in force as a start for translators. Fails quietly where the folder is missing.
 void GenerateLanguageFile(const ProgramState& state, UiServices& ui) {
     constexpr int kFirstId = 100;
@@ -36,20 +46,28 @@ void GenerateLanguageFile(const ProgramState& state, UiServices& ui) {
         if (text.size() > kLongestReadable) ui.Beep();
         texts.push_back({std::to_wstring(id), std::move(text)});
     }
-    modSect::WriteSettings(modLoadRes::kTextSection, texts, state.LanguageFile);
+    modSect::WriteSettings(modLoadRes::kTextSection, texts, {state.LanguageFile, state.CodePage});
+}
+
+/// Stores the language in force, unless another program stored one since `chosen` was read.
+void RememberLanguage(const ProgramState& state, std::wstring_view chosen) {
+    const auto store = [&](modSect::Change& change) -> Result<void> {
+        if (change.Value(modRegs::kSettingsSection, kLanguageKey, {}) == chosen)
+            change.Set(modRegs::kSettingsSection, kLanguageKey, state.LanguageId);
+        return {};
+    };
+    // A settings file that cannot be written is no reason not to start.
+    [[maybe_unused]] const Result<void> stored =
+        modSect::ChangeProfile(state.SettingsProfile(), store);
 }
 
 }  // namespace
 
-int WantedLocale(const ProgramState& state) {
-    const std::wstring chosen =
-        modSect::ReadSetting(modRegs::kSettingsSection, kLanguageKey, {}, state.SettingsFile);
-    if (const auto number = WholeNumber(chosen)) return *number;
-    return WholeNumber(state.LanguageId).value_or(kEnglish);
-}
+int WantedLocale(const ProgramState& state) { return LocaleFor(state, ChosenLanguage(state)); }
 
 std::wstring InitLanguage(ProgramState& state, UiServices& ui) {
-    const int wanted = WantedLocale(state);
+    const std::wstring chosen = ChosenLanguage(state);
+    const int wanted = LocaleFor(state, chosen);
     state.LanguageId = std::to_wstring(wanted);
     state.LanguageFileBase = FileBase(state.LanguageId);
     SetLanguageFilePath(state);
@@ -71,8 +89,7 @@ std::wstring InitLanguage(ProgramState& state, UiServices& ui) {
     state.HelpFile = TextFromPath(state.DataFolder) + L"\\Wordhawk.chm::/" +
                      std::wstring(LanguageName(locale, Want::EnglishName)) + L".txt";
     state.LanguageDictFolder = state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId);
-    modSect::WriteSetting(modRegs::kSettingsSection, kLanguageKey, state.LanguageId,
-                          state.SettingsFile);
+    RememberLanguage(state, chosen);
     return state.LanguageId;
 }
 

@@ -20,8 +20,19 @@ std::wstring TextFromPath(const Path& path);
 /// A path for a message, in UTF-8 with the system's separators.
 std::string PathForMessage(const Path& path);
 
-/// Reads a whole file as bytes. Errors: missing, unreadable, a folder.
-Result<std::string> ReadWholeFile(const Path& path);
+/// What may be read as a file: a pipe or a device can stand in for a file that the user names, but
+/// never for one of the program's own, where it could keep the program waiting for ever.
+enum class Accepted { RegularFiles, Streams };
+
+/// Reads a whole file as bytes. Errors: missing, unreadable, a folder, not among what is accepted.
+Result<std::string> ReadWholeFile(const Path& path, Accepted accepted = Accepted::RegularFiles);
+
+/// Whether nothing stands at `path`. False also where that cannot be told, say for want of rights.
+bool IsMissing(const Path& path);
+
+/// The file that a chain of symbolic links ends at, which need not exist; `path` as it is when it
+/// is no link. Errors: a chain without an end.
+Result<Path> FollowLinks(const Path& path);
 
 /// Whether something that can be opened as a file stands at `path` (a folder does not count).
 bool IsFile(const Path& path);

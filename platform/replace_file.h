@@ -15,4 +15,8 @@ enum class Durability { Flushed, LeftToTheSystem };
 Result<void> ReplaceFileContents(const Path& path, std::string_view bytes,
                                  Durability durability = Durability::Flushed);
 
+/// Deletes the temporary files that killed programs left in `folder`, but none that a living one is
+/// writing. Called under the folder's lock.
+void SweepTemporaries(const Path& folder);
+
 }  // namespace wordhawk

@@ -1,14 +1,13 @@
 #include "engine/session/replacements.h"
 
 #include "app/modRegs.h"
-#include "platform/modSect.h"
 #include "platform/text.h"
 
 #include <algorithm>
 
 namespace wordhawk {
 
-void RecentChanges::LoadRecentChanges(const Path& settings_file) {
+void RecentChanges::LoadRecentChanges(const modSect::ProfileFile& settings_file) {
     const std::vector<std::wstring> entries =
         modSect::ReadSection(settings_file, modRegs::kRecentChangesSection);
     if (entries.empty() || entries.front().empty()) return;
@@ -29,13 +28,12 @@ void RecentChanges::RememberReplacement(std::wstring_view text) {
     if (items_.size() > kMaximum) items_.erase(items_.begin() + kMaximum);
 }
 
-bool RecentChanges::SaveRecentChanges(const Path& settings_file) const {
-    bool written = true;
-    for (std::size_t i = 0; i < items_.size() && i < kMaximum; ++i) {
-        written &= modSect::WriteSetting(modRegs::kRecentChangesSection, std::to_wstring(i),
-                                         items_[i], settings_file);
-    }
-    return written;
+bool RecentChanges::SaveRecentChanges(const modSect::ProfileFile& settings_file) const {
+    std::vector<modSect::KeyAndValue> values;
+    for (std::size_t i = 0; i < items_.size() && i < kMaximum; ++i)
+        values.push_back({std::to_wstring(i), items_[i]});
+    return values.empty() ||
+           modSect::WriteSettings(modRegs::kRecentChangesSection, values, settings_file);
 }
 
 }  // namespace wordhawk

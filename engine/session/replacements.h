@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/files.h"
+#include "platform/modSect.h"
 
 #include <string>
 #include <string_view>
@@ -14,11 +14,11 @@ class RecentChanges {
     static constexpr std::size_t kMaximum = 8;
 
     /// Puts the stored texts before those already there, in their stored order.
-    void LoadRecentChanges(const Path& settings_file);
+    void LoadRecentChanges(const modSect::ProfileFile& settings_file);
     /// Makes `text` the newest; an empty text is ignored.
     void RememberReplacement(std::wstring_view text);
     /// Writes the texts under keys "0", "1", ... False when the file could not be written.
-    bool SaveRecentChanges(const Path& settings_file) const;
+    bool SaveRecentChanges(const modSect::ProfileFile& settings_file) const;
 
     const std::vector<std::wstring>& Items() const { return items_; }
 

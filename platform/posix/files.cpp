@@ -20,12 +20,16 @@ std::wstring TextFromPath(const Path& path) { return FromUtf8(path.native()); }
 
 std::string PathForMessage(const Path& path) { return ToUtf8(FromUtf8(path.native())); }
 
-Result<std::string> ReadWholeFile(const Path& path) {
-    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+Result<std::string> ReadWholeFile(const Path& path, Accepted accepted) {
+    // Without O_NONBLOCK a pipe that nobody writes to would never be open to be looked at.
+    const int without_wait = accepted == Accepted::RegularFiles ? O_NONBLOCK : 0;
+    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | without_wait));
     if (!file) return tl::unexpected(ErrorFromErrno(errno, path));
     struct stat status {};
     if (fstat(file.Get(), &status) != 0) return tl::unexpected(ErrorFromErrno(errno, path));
     if (S_ISDIR(status.st_mode)) return tl::unexpected(ErrorFromErrno(EISDIR, path));
+    if (accepted == Accepted::RegularFiles && !S_ISREG(status.st_mode))
+        return tl::unexpected(Error{L"this is a pipe or a device, not a file", path});
     // The size is only a first guess: pipes have none and a file may grow meanwhile.
     std::string bytes;
     std::size_t used = 0;
@@ -49,6 +53,24 @@ bool IsFile(const Path& path) {
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat status {};
     return file && fstat(file.Get(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
+bool IsMissing(const Path& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+Result<Path> FollowLinks(const Path& start) {
+    Path path = start;
+    for (int links = 0; links < 40; ++links) {
+        struct stat status {};
+        if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
+        std::error_code error;
+        const Path target = std::filesystem::read_symlink(path, error);
+        if (error) return tl::unexpected(ErrorFromErrno(error.value(), path));
+        path = target.is_absolute() ? target : path.parent_path() / target;
+    }
+    return tl::unexpected(ErrorFromErrno(ELOOP, start));
 }
 
 bool IsFolder(const Path& path) {

@@ -23,7 +23,8 @@ Path HomeFolder() {
     passwd* found = nullptr;
     if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || !found)
         return {};
-    return Path(found->pw_dir);
+    Path home = found->pw_dir;
+    return home.is_absolute() ? home : Path();
 }
 
 }  // namespace

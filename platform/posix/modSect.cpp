@@ -1,86 +1,58 @@
 #include "platform/modSect.h"
 
 #include "platform/locale_ids.h"
-#include "platform/posix/profile_text.h"
-#include "platform/replace_file.h"
-#include "platform/single_writer.h"
+#include "platform/profile_page.h"
 
-namespace wordhawk::modSect {
+#include <algorithm>
+
+namespace wordhawk {
+
+const AnsiCodePage& ProfilePage(const AnsiCodePage* wanted) {
+    return wanted != nullptr ? *wanted : AnsiCodePage::Get(SystemAnsiPage(SystemDefaultLocale()));
+}
+
+std::wstring ProfileForm(std::wstring_view value, const AnsiCodePage&) {
+    return std::wstring(value);
+}
+
+bool ProfilePageHolds(std::wstring_view text, const AnsiCodePage& page) {
+    return std::all_of(text.begin(), text.end(),
+                       [&](wchar_t c) { return page.ToByteOrNone(c) >= 0; });
+}
+
+namespace modSect {
 namespace {
 
-const AnsiCodePage& ProfilePage() {
-    return AnsiCodePage::Get(SystemAnsiPage(SystemDefaultLocale()));
-}
-
-ProfileText Load(const Path& file) {
-    const Result<std::string> bytes = ReadWholeFile(file);
-    return {bytes ? std::string_view(*bytes) : std::string_view(), ProfilePage()};
-}
-
-std::wstring_view WithoutQuotes(std::wstring_view text) {
-    if (text.size() < 2 || text.front() != text.back()) return text;
-    if (text.front() != L'"' && text.front() != L'\'') return text;
-    return text.substr(1, text.size() - 2);
-}
-
-/// Changes the file under the folder's lock, so that two programs writing different keys at once
-/// both succeed.
-template <class Change>
-bool ChangeProfile(const Path& file, Change change) {
-    const Path folder = file.has_parent_path() ? file.parent_path() : Path(".");
-    const Result<SingleWriter> lock = SingleWriter::Acquire(folder);
-    if (!lock) return false;
-    std::error_code error;
-    const bool exists = std::filesystem::exists(file, error);
-    std::string old_bytes;
-    if (exists) {
-        Result<std::string> bytes = ReadWholeFile(file);
-        // Never to be mistaken for an empty file and written over.
-        if (!bytes) return false;
-        old_bytes = std::move(*bytes);
-    }
-    ProfileText profile(old_bytes, ProfilePage());
-    change(profile);
-    const std::string new_bytes = profile.Bytes();
-    if (exists && new_bytes == old_bytes) return true;
-    return ReplaceFileContents(file, new_bytes).has_value();
+ProfileText Load(const ProfileFile& file) {
+    const Result<std::string> bytes = ReadWholeFile(file.path);
+    return {bytes ? std::string_view(*bytes) : std::string_view(), ProfilePage(file.page)};
 }
 
 }  // namespace
 
 std::wstring ReadSetting(std::wstring_view section, std::wstring_view key,
-                         std::wstring_view default_text, const Path& file) {
+                         std::wstring_view default_text, const ProfileFile& file) {
+    return ValueAsRead(Load(file).Value(section, key), default_text);
+}
+
+std::vector<std::wstring> ReadSettings(std::wstring_view section,
+                                       std::span<const KeyAndValue> keys_and_defaults,
+                                       const ProfileFile& file) {
     const ProfileText profile = Load(file);
-    std::wstring_view value;
-    if (const auto found = profile.Value(section, key)) {
-        value = WithoutQuotes(*found);
-    } else {
-        value = StripNull(default_text);
-        value = value.substr(0, value.find_last_not_of(L' ') + 1);
-    }
-    return std::wstring(value.substr(0, kValueBuffer - 1));
+    std::vector<std::wstring_view> keys;
+    for (const KeyAndValue& each : keys_and_defaults) keys.push_back(each.key);
+    const auto stored = profile.Values(section, keys);
+    std::vector<std::wstring> values;
+    for (std::size_t i = 0; i < stored.size(); ++i)
+        values.push_back(ValueAsRead(stored[i], keys_and_defaults[i].value));
+    return values;
 }
 
-bool WriteSetting(std::wstring_view section, std::wstring_view key, std::wstring_view value,
-                  const Path& file) {
-    return ChangeProfile(file, [&](ProfileText& profile) {
-        profile.SetValue(section, key, StripNull(OneLine(value)));
-    });
-}
-
-bool WriteSettings(std::wstring_view section, std::span<const KeyAndValue> values,
-                   const Path& file) {
-    return ChangeProfile(file, [&](ProfileText& profile) {
-        for (const auto& [key, value] : values) {
-            profile.SetValue(section, key, StripNull(OneLine(value)));
-        }
-    });
-}
-
-std::vector<std::wstring> ReadSection(const Path& file, std::wstring_view section) {
+std::vector<std::wstring> ReadSection(const ProfileFile& file, std::wstring_view section) {
     std::vector<std::wstring> entries = Load(file).Entries(section);
     if (entries.empty()) entries.emplace_back();
     return entries;
 }
 
-}  // namespace wordhawk::modSect
+}  // namespace modSect
+}  // namespace wordhawk

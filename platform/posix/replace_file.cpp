@@ -1,49 +1,50 @@
 #include "platform/replace_file.h"
 
+#include "platform/folder_entries.h"
 #include "platform/posix/errors.h"
 #include "platform/posix/file_descriptor.h"
+#include "platform/temporary_name.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <cerrno>
 #include <cstdio>
-#include <string>
-#include <system_error>
+#include <string_view>
 #include <utility>
 
 namespace wordhawk {
 namespace {
 
-/// The file that a chain of symbolic links ends at, which need not exist.
-Result<Path> FollowLinks(Path path) {
-    for (int links = 0; links < 40; ++links) {
-        struct stat status {};
-        if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
-        std::error_code error;
-        const Path target = std::filesystem::read_symlink(path, error);
-        if (error) return tl::unexpected(ErrorFromErrno(error.value(), path));
-        path = target.is_absolute() ? target : path.parent_path() / target;
-    }
-    return tl::unexpected(ErrorFromErrno(ELOOP, path));
+/// Marks a temporary file as being written, for as long as one of its openings lives. Where locks
+/// are not to be had, the folder's own lock has to do.
+bool TryMarkAsAlive(const FileDescriptor& file) {
+    struct flock whole {};
+    whole.l_type = F_WRLCK;
+    whole.l_whence = SEEK_SET;
+    return fcntl(file.Get(), F_OFD_SETLK, &whole) == 0;
 }
 
 struct Temporary {
     Path path;
     FileDescriptor file;
+    /// Keeps the mark until the file has its final name; `file` is closed before that.
+    FileDescriptor mark;
 };
 
-/// A fresh file beside `target`, its name short whatever the target is called. A crashed program
-/// may have left one behind under the same process number, hence the tries.
+/// A fresh file beside `target`. Names that are taken are as good as impossible, hence few tries.
 Temporary MakeTemporaryBeside(const Path& target) {
-    static std::atomic<unsigned> counter{0};
     for (int tries = 0;; ++tries) {
-        Path path = target.parent_path() / (".wordhawk-" + std::to_string(getpid()) + "-" +
-                                            std::to_string(++counter) + ".tmp");
+        Path path = target.parent_path() / PathFromText(TemporaryName());
         FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (file || errno != EEXIST || tries == 100) return {std::move(path), std::move(file)};
+        if (!file && errno == EEXIST && tries < 10) continue;
+        FileDescriptor mark;
+        if (file) {
+            TryMarkAsAlive(file);
+            mark = FileDescriptor(fcntl(file.Get(), F_DUPFD_CLOEXEC, 0));
+        }
+        return {std::move(path), std::move(file), std::move(mark)};
     }
 }
 
@@ -83,9 +84,10 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes, Durab
         return tl::unexpected(Error{L"the file is read-only", path});
     }
 
-    auto [temporary, file] = MakeTemporaryBeside(*target);
-    if (!file) {
+    auto [temporary, file, mark] = MakeTemporaryBeside(*target);
+    if (!file || !mark) {
         const int code = errno;
+        if (file) unlink(temporary.c_str());
         if (code == ENOENT) return tl::unexpected(Error{L"the folder does not exist", path});
         return tl::unexpected(ErrorFromErrno(code, path));
     }
@@ -102,6 +104,16 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes, Durab
     }
     if (durability == Durability::Flushed) FlushFolder(target->parent_path());
     return {};
+}
+
+void SweepTemporaries(const Path& folder) {
+    for (const FolderEntry& entry : FolderEntries(folder)) {
+        if (!IsTemporaryName(entry.name)) continue;
+        const Path path = folder / PathFromText(entry.name);
+        const FileDescriptor file(
+            open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        if (file && TryMarkAsAlive(file)) unlink(path.c_str());
+    }
 }
 
 }  // namespace wordhawk

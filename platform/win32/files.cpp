@@ -18,6 +18,20 @@ FileHandle OpenToRead(const Path& path) {
                                   OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
 }
 
+/// Where a file or folder really lies, links on the way resolved; empty when it cannot be opened.
+Path FinalPath(const Path& path) {
+    const FileHandle file(CreateFileW(SystemPath(path).c_str(), 0,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    if (!file) return {};
+    std::wstring target(32768, L'\0');
+    const DWORD length = GetFinalPathNameByHandleW(
+        file.Get(), target.data(), static_cast<DWORD>(target.size()), FILE_NAME_NORMALIZED);
+    if (length == 0 || length >= target.size()) return {};
+    target.resize(length);
+    return target;
+}
+
 Error LastError(const Path& path) { return ErrorFromCode(GetLastError(), path); }
 
 }  // namespace
@@ -27,11 +41,17 @@ Path PathFromText(std::wstring_view text) { return Path(std::wstring(text)); }
 std::wstring TextFromPath(const Path& path) { return path.native(); }
 
 std::string PathForMessage(const Path& path) {
-    Path shown = path;
-    return ToUtf8(shown.make_preferred().native());
+    std::wstring shown = Path(path).make_preferred().native();
+    // The prefix of resolved and of very long paths means nothing to people.
+    if (shown.starts_with(LR"(\\?\UNC\)")) {
+        shown.replace(0, 7, L"\\");
+    } else if (shown.starts_with(LR"(\\?\)")) {
+        shown.erase(0, 4);
+    }
+    return ToUtf8(shown);
 }
 
-Result<std::string> ReadWholeFile(const Path& path) {
+Result<std::string> ReadWholeFile(const Path& path, Accepted accepted) {
     // A check opens hundreds of small files, so what is rarely needed is asked only after a
     // failure.
     FileHandle file = OpenToRead(path);
@@ -43,6 +63,8 @@ Result<std::string> ReadWholeFile(const Path& path) {
         });
         if (failure != ERROR_SUCCESS) return tl::unexpected(ErrorFromCode(failure, path));
     }
+    if (accepted == Accepted::RegularFiles && GetFileType(file.Get()) != FILE_TYPE_DISK)
+        return tl::unexpected(Error{L"this is a pipe or a device, not a file", path});
     // The size is only a first guess: pipes have none and a file may grow meanwhile.
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file.Get(), &size)) size.QuadPart = 0;
@@ -67,6 +89,21 @@ Result<std::string> ReadWholeFile(const Path& path) {
 }
 
 bool IsFile(const Path& path) { return static_cast<bool>(OpenToRead(path)); }
+
+bool IsMissing(const Path& path) {
+    if (AttributesOf(path) != INVALID_FILE_ATTRIBUTES) return false;
+    const DWORD failure = GetLastError();
+    return failure == ERROR_FILE_NOT_FOUND || failure == ERROR_PATH_NOT_FOUND;
+}
+
+Result<Path> FollowLinks(const Path& path) {
+    const Path end = FinalPath(path);
+    if (end.empty()) return path;
+    // An ordinary file keeps the name by which it was asked for.
+    const Path parent = FinalPath(path.has_parent_path() ? path.parent_path() : Path(L"."));
+    const bool is_link = !EqualIgnoringCase((parent / path.filename()).native(), end.native());
+    return is_link ? end : path;
+}
 
 bool IsFolder(const Path& path) {
     const DWORD attributes = AttributesOf(path);

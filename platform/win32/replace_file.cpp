@@ -1,49 +1,28 @@
 #include "platform/replace_file.h"
 
+#include "platform/temporary_name.h"
 #include "platform/win32/errors.h"
 #include "platform/win32/handle.h"
 
 #include <algorithm>
-#include <atomic>
 #include <string>
 #include <utility>
 
 namespace wordhawk {
 namespace {
 
-/// The file that a symbolic link ends at; the path itself when it is none.
-Path FollowLinks(const Path& path, DWORD attributes) {
-    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT)) {
-        return path;
-    }
-    const FileHandle file(CreateFileW(SystemPath(path).c_str(), 0,
-                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                      nullptr, OPEN_EXISTING, 0, nullptr));
-    if (!file) return path;
-    std::wstring target(32768, L'\0');
-    const DWORD length = GetFinalPathNameByHandleW(
-        file.Get(), target.data(), static_cast<DWORD>(target.size()), FILE_NAME_NORMALIZED);
-    if (length == 0 || length >= target.size()) return path;
-    target.resize(length);
-    return target;
-}
-
 struct Temporary {
     std::wstring path;
     FileHandle file;
 };
 
-/// A fresh file beside `target`, its name short whatever the target is called. A crashed program
-/// may have left one behind under the same process number, hence the tries.
+/// A fresh file beside `target`. Names that are taken are as good as impossible, hence few tries.
 Temporary MakeTemporaryBeside(const Path& target) {
-    static std::atomic<unsigned> counter{0};
     for (int tries = 0;; ++tries) {
-        const std::wstring name = L".wordhawk-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                                  std::to_wstring(++counter) + L".tmp";
-        std::wstring path = SystemPath(target.parent_path() / name);
+        std::wstring path = SystemPath(target.parent_path() / TemporaryName());
         FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-        if (file || GetLastError() != ERROR_FILE_EXISTS || tries == 100) {
+        if (file || GetLastError() != ERROR_FILE_EXISTS || tries == 10) {
             return {std::move(path), std::move(file)};
         }
     }
@@ -79,7 +58,7 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes, Durab
     if (exists && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         return tl::unexpected(Error{L"this is a folder, not a file", path});
     }
-    const Path target = FollowLinks(path, attributes);
+    const Path target = FollowLinks(path).value_or(path);
     const std::wstring target_text = SystemPath(target);
     const DWORD target_attributes = GetFileAttributesW(target_text.c_str());
     if (exists && (target_attributes & FILE_ATTRIBUTE_READONLY) != 0) {
@@ -102,6 +81,20 @@ Result<void> ReplaceFileContents(const Path& path, std::string_view bytes, Durab
         return tl::unexpected(ErrorFromCode(failure, path));
     }
     return {};
+}
+
+void SweepTemporaries(const Path& folder) {
+    WIN32_FIND_DATAW found{};
+    const FindHandle search(
+        FindFirstFileW(SystemPath(folder / L".wordhawk-*.tmp").c_str(), &found));
+    if (!search) return;
+    do {
+        if (!IsTemporaryName(found.cFileName)) continue;
+        // Refused while somebody has the file open.
+        const FileHandle alone(CreateFileW(
+            SystemPath(folder / found.cFileName).c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
+            FILE_FLAG_DELETE_ON_CLOSE | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    } while (FindNextFileW(search.Get(), &found));
 }
 
 }  // namespace wordhawk

@@ -120,5 +120,22 @@ TEST(DelimiterFlags, OneFlagIsOneCharacterInFlagOrder) {
     EXPECT_EQ(BuildDelimiters(store, AnsiCodePage::Get(1252)), L"0\x00F8");
 }
 
+TEST(DelimiterFlags, TwoThatAreSavedInTurnKeepEachOthersChanges) {
+    const test::TempDir folder;
+    const Path file = folder / L"Wordhawk.ini";
+    DelimiterFlagStore one;
+    DelimiterFlagStore other;
+    one.Load(file);
+    other.Load(file);
+    one.Set(2, 0);
+    other.Set(3, 0);
+    ASSERT_TRUE(one.Save() && other.Save());
+    DelimiterFlagStore stored;
+    stored.Load(file);
+    EXPECT_EQ(stored.Get(2) + stored.Get(3), 0);
+    EXPECT_EQ(other.Get(2), 0) << "what is saved is what holds";
+    EXPECT_EQ(stored.Get(4), 1);
+}
+
 }  // namespace
 }  // namespace wordhawk

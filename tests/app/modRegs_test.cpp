@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <thread>
+
 namespace wordhawk {
 namespace {
 
@@ -191,6 +193,49 @@ TEST_F(ModRegs, KeysOfALongerListStay) {
     ASSERT_TRUE(modRegs::SaveCustomDictionaryList(state_, {}));
     EXPECT_THAT(LoadSettings(state_).CustomDictionaries,
                 ElementsAre(L"CUSTOM.DIC", L"B.DIC", L"C.DIC"));
+}
+
+TEST_F(ModRegs, ProgramsThatActivateAtOnceLoseNoName) {
+    constexpr int kPrograms = 8;
+    std::vector<std::thread> programs;
+    for (int i = 0; i < kPrograms; ++i) {
+        programs.emplace_back([&, i] {
+            Settings settings = LoadSettings(state_);
+            const std::wstring name = L"D" + std::to_wstring(i) + L".DIC";
+            EXPECT_TRUE(modRegs::ActivateCustomDictionary(state_, settings, name));
+            EXPECT_EQ(settings.CustomDictionaries.front(), L"CUSTOM.DIC");
+        });
+    }
+    for (std::thread& program : programs) program.join();
+    EXPECT_EQ(LoadSettings(state_).CustomDictionaries.size(), 1u + kPrograms);
+}
+
+TEST_F(ModRegs, AWindowThatClosesKeepsWhatOthersPutOnTheList) {
+    WriteBytes(state_.SettingsFile, "[Dictionarys]\r\n0=A.DIC\r\n1=B.DIC\r\n");
+    const std::vector<std::wstring> known = LoadSettings(state_).CustomDictionaries;
+    Settings other = LoadSettings(state_);
+    ASSERT_TRUE(modRegs::ActivateCustomDictionary(state_, other, L"NEW.DIC"));
+    EXPECT_TRUE(modRegs::ActivateCustomDictionary(state_, other, L"new.dic")) << "there already";
+    ASSERT_TRUE(modRegs::MergeCustomDictionaryList(state_, known, known));
+    EXPECT_THAT(LoadSettings(state_).CustomDictionaries,
+                ElementsAre(L"A.DIC", L"B.DIC", L"NEW.DIC"));
+}
+
+TEST_F(ModRegs, ANameThatTheFileCannotHoldIsRefused) {
+    const std::wstring polish =
+        L"\x017C"
+        L"aba.dic";
+    WriteBytes(state_.SettingsFile, "[Dictionarys]\r\n0=A.DIC\r\n");
+    Settings settings = LoadSettings(state_);
+    const Result<void> activated = modRegs::ActivateCustomDictionary(state_, settings, polish);
+    ASSERT_FALSE(activated);
+    EXPECT_EQ(activated.error().where, state_.SettingsFile);
+    EXPECT_THAT(settings.CustomDictionaries, ElementsAre(L"A.DIC"));
+    EXPECT_EQ(test::ReadBytes(state_.SettingsFile), "[Dictionarys]\r\n0=A.DIC\r\n");
+
+    WriteBytes(state_.SettingsFile, std::string("\xFF\xFE", 2));
+    EXPECT_TRUE(modRegs::ActivateCustomDictionary(state_, settings, polish)) << "a UTF-16 file can";
+    EXPECT_THAT(LoadSettings(state_).CustomDictionaries, ElementsAre(L"CUSTOM.DIC", polish));
 }
 
 }  // namespace

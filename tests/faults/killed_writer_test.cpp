@@ -1,5 +1,6 @@
 #include "dict/dictionary_file.h"
 #include "platform/folders.h"
+#include "platform/single_writer.h"
 #include "tests/support/random_text.h"
 #include "tests/support/temp_dir.h"
 
@@ -61,6 +62,7 @@ TEST(KilledWriter, LeavesTheOldFileOrTheNewOne) {
     const std::string before = dictionary_edit::SortedDistinct(unsorted, page);
 
     test::Random random(3);
+    std::size_t left_behind = 0;
     for (int kill_number = 0; kill_number < kKills; ++kill_number) {
         test::WriteBytes(file, before);
         const ino_t old = InodeOf(file);
@@ -79,9 +81,13 @@ TEST(KilledWriter, LeavesTheOldFileOrTheNewOne) {
         const std::size_t added = after.find("\r\nword4x");
         if (added != std::string::npos) after.erase(added, after.find("\r\n", added + 2) - added);
         ASSERT_TRUE(after == before) << "kill " << kill_number;
+        const std::size_t temporaries = CountTemporaries(file.parent_path());
+        ASSERT_LE(temporaries, 1u) << "the next writer sweeps up";
+        left_behind += temporaries;
     }
-    EXPECT_GT(CountTemporaries(file.parent_path()), 0u)
-        << "no kill came while a file was being written";
+    EXPECT_GT(left_behind, 0u) << "no kill came while a file was being written";
+    ASSERT_TRUE(SingleWriter::Acquire(file.parent_path()));
+    EXPECT_EQ(CountTemporaries(file.parent_path()), 0u);
 }
 
 }  // namespace

@@ -90,13 +90,15 @@ TEST(ReadOnlyFile, GivesAnErrorAndStaysAsItIs) {
     Path path;
     const Result<void> added =
         AddWordToDictionary(data.store, L"new", AddTarget::ActiveCustom, path);
-    const Result<Path> removed = RemoveWordFromDictionaries(data.store, L"zebra");
+    const Removal removed = RemoveWordFromDictionaries(data.store, L"zebra");
     std::filesystem::permissions(file, write, std::filesystem::perm_options::add);
 
     ASSERT_FALSE(added);
     EXPECT_EQ(added.error().where, file);
     EXPECT_FALSE(added.error().what.empty());
-    EXPECT_FALSE(removed);
+    EXPECT_EQ(removed.file, Path());
+    ASSERT_EQ(removed.failures.size(), 1u);
+    EXPECT_EQ(removed.failures[0].where, file);
     EXPECT_EQ(ReadBytes(file), old);
     for (const auto& entry : std::filesystem::directory_iterator(data.state.CustomFolder())) {
         EXPECT_NE(entry.path().extension(), ".tmp") << "left behind";

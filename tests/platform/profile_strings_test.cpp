@@ -75,6 +75,19 @@ TEST(ProfileStrings, ReadValues) {
     }
 }
 
+TEST(ProfileStrings, ReadManyValuesAtOnce) {
+    const test::TempDir folder;
+    const Path file = folder / L"t.ini";
+    const std::vector<modSect::KeyAndValue> keys = {{L"m", L"a"}, {L"k", L"none"}, {L"", L"b "}};
+    for (const ReadCase& row : kReadCases) {
+        WriteBytes(file, row.bytes);
+        std::vector<std::wstring> expected;
+        for (const auto& [key, value] : keys)
+            expected.push_back(ReadSetting(L"S", key, value, file));
+        EXPECT_EQ(modSect::ReadSettings(L"S", keys, file), expected) << row.reason;
+    }
+}
+
 TEST(ProfileStrings, ReadSections) {
     const test::TempDir folder;
     const Path file = folder / L"t.ini";

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <string>
@@ -77,6 +78,42 @@ TEST(SingleWriter, LockFileIsNoDictionary) {
     const test::TempDir folder;
     const Result<SingleWriter> lock = SingleWriter::Acquire(folder.Folder());
     EXPECT_TRUE(ListFiles(folder.Folder(), L".dic").empty());
+}
+
+constexpr std::chrono::milliseconds kMoment{20};
+
+TEST(SingleWriter, WaitsNoLongerThanItsLimit) {
+    const test::TempDir folder;
+    const Result<SingleWriter> held = SingleWriter::Acquire(folder.Folder());
+    const Result<SingleWriter> other = SingleWriter::Acquire(folder.Folder(), kMoment);
+    ASSERT_FALSE(other);
+    EXPECT_EQ(other.error().where, folder.Folder());
+    EXPECT_NE(other.error().what.find(L"locked"), std::wstring::npos);
+}
+
+TEST(SingleWriter, DeletingTheLockFileLetsNobodyIn) {
+    const test::TempDir folder;
+    const Result<SingleWriter> held = SingleWriter::Acquire(folder.Folder());
+    ASSERT_TRUE(held);
+    // Where the system allows it at all.
+    std::error_code refused;
+    std::filesystem::remove(folder.Folder() / ".wordhawk.lock", refused);
+    EXPECT_FALSE(SingleWriter::Acquire(folder.Folder(), kMoment));
+}
+
+TEST(SingleWriter, SweepsWhatKilledProgramsLeft) {
+    const test::TempDir folder;
+    WriteBytes(folder / L".wordhawk-1234-1.tmp", "left by an earlier version");
+    WriteBytes(folder / L".wordhawk-abcdefgh234567ab.tmp", "left");
+    WriteBytes(folder / L"wordhawk.tmp", "a user's");
+    WriteBytes(folder / L".wordhawk-.txt", "a user's");
+    ASSERT_TRUE(SingleWriter::Acquire(folder.Folder()));
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Folder()))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names,
+              (std::vector<std::string>{".wordhawk-.txt", ".wordhawk.lock", "wordhawk.tmp"}));
 }
 
 }  // namespace

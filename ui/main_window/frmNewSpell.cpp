@@ -16,6 +16,7 @@
 #include <richedit.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace wordhawk {
 
@@ -117,7 +118,7 @@ void frmNewSpell::Form_Load() {
     ApplyCaptions();
     if (!program_.state.ProgramMode) shared_.instance = this;
     if (program_.state.ProgramMode && program_.settings.OpenWOptions != 0) cmdOptions_Click();
-    commands_.recent.LoadRecentChanges(program_.state.SettingsFile);
+    commands_.recent.LoadRecentChanges(program_.state.SettingsProfile());
     commands_.ShowRecent();
     geometry_.Centre(handle_, MeasureNow());
     // A check mark, whatever the file says.
@@ -221,12 +222,22 @@ long frmNewSpell::SpellCheck(SpellCheckArguments& arguments) {
     return cSpellit(program_, check_).SpellCheck(arguments);
 }
 
+void frmNewSpell::TellOfUnreadable() {
+    if (const auto failure = std::exchange(program_.install_failure, std::nullopt))
+        commands_.ShowError(text_id::kCannotInstall, *failure);
+    const std::vector<Error>& unreadable = program_.dictionaries.Unreadable();
+    if (unreadable_told_ == unreadable.size()) return;
+    unreadable_told_ = unreadable.size();
+    commands_.ShowError(text_id::kCannotReadDictionary, unreadable.back());
+}
+
 void frmNewSpell::CheckDocument() {
     const HWND focus_before = GetFocus();
     SpellCheckArguments arguments = check_.OwnArguments();
     if (SpellCheck(arguments) < kChecked) return;
     if (CloseIfAsked()) return;
     const bool correcting = !commands_.session.Words().empty();
+    TellOfUnreadable();
     if (correcting) {
         // From here on Enter means Change; in the document it would replace the selected word.
         MoveFocus(txtChgTo);
@@ -364,7 +375,7 @@ void frmNewSpell::Unload() {
 }
 
 bool frmNewSpell::Form_QueryUnload() {
-    commands_.recent.SaveRecentChanges(program_.state.SettingsFile);
+    commands_.recent.SaveRecentChanges(program_.state.SettingsProfile());
     if (files_.SaveBack()) return true;
     // Once, the window stays, so that the text can be saved elsewhere.
     const bool failed_before = save_back_failed_;
@@ -377,7 +388,9 @@ void frmNewSpell::Form_Unload() {
     geometry_.Save(handle_, MeasureNow());
     suggestions_.SaveSliders();
     menus_.mnuCustD.RemoveFrom(1);
-    modRegs::SaveCustomDictionaryList(program_.state, cboDicts.Texts());
+    // What another copy of the program put on the list meanwhile stays there.
+    modRegs::MergeCustomDictionaryList(program_.state, cboDicts.Texts(),
+                                       program_.settings.CustomDictionaries);
     if (shared_.instance == this) shared_.instance = nullptr;
     word_pointer_.Remove();
     ClearFormTexts(*this);

@@ -162,6 +162,9 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void SetWordPointer();
     void CheckDocument();
     void ShowToUser();
+    /// Once for each set of dictionaries: a word may be unknown only because its file cannot be
+    /// read.
+    void TellOfUnreadable();
     void Finished(const SessionStep& step);
     /// The end of a check: the text goes where the settings want it, the end is announced, and the
     /// window closes itself if asked to.
@@ -204,6 +207,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     bool loaded_ = false;
     bool close_when_done_ = false;
     bool save_back_failed_ = false;
+    std::size_t unreadable_told_ = 0;
 };
 
 }  // namespace wordhawk

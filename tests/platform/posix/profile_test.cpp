@@ -57,6 +57,14 @@ TEST(PosixProfile, PageFollowsTheLocale) {
     old ? setenv("LC_ALL", saved.c_str(), 1) : unsetenv("LC_ALL");
 }
 
+TEST(PosixProfile, PageThatIsGivenCountsMoreThanTheLocale) {
+    const test::TempDir folder;
+    const modSect::ProfileFile file(folder / L"t.ini", &AnsiCodePage::Get(1250));
+    ASSERT_TRUE(WriteSetting(L"S", L"k", L"\x017C", file));
+    EXPECT_EQ(ReadBytes(file.path), "[S]\r\nk=\xBF\r\n");
+    EXPECT_EQ(ReadSetting(L"S", L"k", L"", file), L"\x017C");
+}
+
 TEST(PosixProfile, WritersOfDifferentKeysDoNotUndoEachOther) {
     const test::TempDir folder;
     const Path file = folder / L"t.ini";

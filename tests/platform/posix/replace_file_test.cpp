@@ -10,7 +10,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <csignal>
+#include <thread>
 
 namespace wordhawk {
 namespace {
@@ -53,17 +55,19 @@ TEST(PosixReplaceFile, LinksStayLinks) {
     EXPECT_FALSE(ReplaceFileContents(folder / L"circle", "x"));
 }
 
-TEST(PosixReplaceFile, LeftoversOfACrashAreStrangers) {
+TEST(PosixReplaceFile, AFileBeingWrittenIsNotSweptAway) {
     const test::TempDir folder;
-    // The next names that this process would choose, taken already.
-    for (int i = 1; i <= 60; ++i) {
-        const std::string name =
-            ".wordhawk-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp";
-        WriteBytes(folder.Folder() / name, "left");
-    }
-    EXPECT_TRUE(ReplaceFileContents(folder / L"a.dic", "new"));
-    EXPECT_EQ(ReadBytes(folder / L"a.dic"), "new");
-    EXPECT_EQ(CountEntries(folder.Folder()), 61u);
+    std::atomic<bool> done = false;
+    std::thread sweeper([&] {
+        while (!done) SweepTemporaries(folder.Folder());
+    });
+    std::size_t failures = 0;
+    for (int i = 0; i < 200; ++i)
+        failures += !ReplaceFileContents(folder / L"a.dic", std::string(50'000, 'x'));
+    done = true;
+    sweeper.join();
+    EXPECT_EQ(failures, 0u);
+    EXPECT_EQ(CountEntries(folder.Folder()), 1u);
 }
 
 TEST(PosixReplaceFile, DevicesAreNotReplaced) {

@@ -3,6 +3,7 @@
 #include "platform/text.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,10 +23,17 @@ class ProfileText {
     /// The value without surrounding blanks; nothing when section, key or "=" is missing.
     std::optional<std::wstring_view> Value(std::wstring_view section, std::wstring_view key) const;
 
+    /// Value of each of the keys, found in one walk through the section.
+    std::vector<std::optional<std::wstring_view>> Values(
+        std::wstring_view section, std::span<const std::wstring_view> keys) const;
+
     /// "key=value" of every line of the section that is neither blank nor a comment.
     std::vector<std::wstring> Entries(std::wstring_view section) const;
 
     void SetValue(std::wstring_view section, std::wstring_view key, std::wstring_view value);
+
+    /// Whether the file's own encoding holds every character.
+    bool IsUnicode() const { return encoding_ == Encoding::Utf16; }
 
     /// The file as bytes, in the encoding that it came in.
     std::string Bytes() const;

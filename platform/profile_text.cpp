@@ -1,4 +1,4 @@
-#include "platform/posix/profile_text.h"
+#include "platform/profile_text.h"
 
 #include <algorithm>
 
@@ -123,17 +123,27 @@ ProfileText::SectionLines ProfileText::FindSection(std::wstring_view name) const
 
 std::optional<std::wstring_view> ProfileText::Value(std::wstring_view section,
                                                     std::wstring_view key) const {
+    return Values(section, {&key, 1}).front();
+}
+
+std::vector<std::optional<std::wstring_view>> ProfileText::Values(
+    std::wstring_view section, std::span<const std::wstring_view> keys) const {
+    std::vector<std::optional<std::wstring_view>> values(keys.size());
+    std::vector<bool> found(keys.size());
     const SectionLines lines = FindSection(section);
     for (std::size_t at = lines.begin; at < lines.end;) {
         const Line line = LineAt(at);
-        const KeyAndValue entry = Split(line.content);
-        if (line.IsEntry() && EqualIgnoringCase(entry.key, key)) {
-            if (!entry.value) return std::nullopt;
-            return UpToNull(*entry.value);
-        }
         at = line.next;
+        if (!line.IsEntry()) continue;
+        const KeyAndValue entry = Split(line.content);
+        for (std::size_t i = 0; i < keys.size(); ++i) {
+            if (found[i] || !EqualIgnoringCase(entry.key, keys[i])) continue;
+            // The first line of a key counts, even one without a value.
+            found[i] = true;
+            if (entry.value) values[i] = UpToNull(*entry.value);
+        }
     }
-    return std::nullopt;
+    return values;
 }
 
 std::vector<std::wstring> ProfileText::Entries(std::wstring_view section) const {
