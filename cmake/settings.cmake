@@ -20,11 +20,36 @@ if(WORDHAWK_WERROR)
   target_compile_options(wordhawk_warnings INTERFACE -Werror)
 endif()
 
+# What makes a mistake of ours harder to use for a hostile file: in our own code, and not beside the
+# sanitizers, which look closer. tests/scripts/check_binaries.py looks at the built programs.
+add_library(wordhawk_hardening INTERFACE)
+if(NOT WORDHAWK_SANITIZE)
+  if(WIN32)
+    target_link_options(wordhawk_hardening INTERFACE
+      -Wl,--dynamicbase,--nxcompat,--high-entropy-va)
+  else()
+    target_link_options(wordhawk_hardening INTERFACE -pie -Wl,-z,relro,-z,now,-z,noexecstack)
+  endif()
+endif()
+if(WORDHAWK_GUARDS AND NOT WORDHAWK_SANITIZE)
+  target_compile_options(wordhawk_hardening INTERFACE -fstack-protector-strong)
+  target_link_options(wordhawk_hardening INTERFACE -fstack-protector-strong)
+  if(CMAKE_BUILD_TYPE MATCHES "Rel")
+    # It needs the optimiser; some compilers define it by themselves.
+    target_compile_options(wordhawk_hardening INTERFACE -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+  endif()
+  if(NOT WIN32)
+    target_compile_options(wordhawk_hardening INTERFACE
+      -fPIE -fstack-clash-protection -fcf-protection)
+  endif()
+endif()
+
 # A core library: `wordhawk_library(dict SOURCES a.cpp b.cpp USES lang)`.
 function(wordhawk_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
   add_library(wordhawk_${name} STATIC ${ARG_SOURCES})
-  target_link_libraries(wordhawk_${name} PRIVATE wordhawk_warnings PUBLIC wordhawk_settings)
+  target_link_libraries(wordhawk_${name}
+    PRIVATE wordhawk_warnings wordhawk_hardening PUBLIC wordhawk_settings)
   foreach(used ${ARG_USES})
     target_link_libraries(wordhawk_${name} PUBLIC wordhawk_${used})
   endforeach()

@@ -1,6 +1,10 @@
 #include "app/command_file.h"
+#include "app/version.h"
 #include "engine/program.h"
+#include "lang/modLoadRes.h"
+#include "lang/text_ids.h"
 #include "platform/win32/system_clipboard.h"
+#include "platform/win32/system_library.h"
 #include "platform/win32/system_sound.h"
 #include "ui/desktop.h"
 #include "ui/framework/message_loop.h"
@@ -46,6 +50,11 @@ int Main() {
     ProgramOptions options;
     options.data_folder = DataFolderOfTests();
     Program program(options, ui);
+    if (program.state.DataFolder.empty()) {
+        ui.ShowMessage(modLoadRes::LoadResText(program.state, text_id::kNoDataFolder),
+                       FromUtf8(WORDHAWK_TITLE), MessageIcon::Exclamation, MessageButtons::Ok);
+        return 1;
+    }
     program.state.CommandFile = CommandFileFrom(Arguments());
 
     // After an update that closed us, the system opens the document again.
@@ -65,6 +74,7 @@ int Main() {
 }  // namespace wordhawk
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    wordhawk::TrustSystemLibrariesOnly();
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     const int result = wordhawk::Main();
     CoUninitialize();

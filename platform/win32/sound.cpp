@@ -1,5 +1,5 @@
 #include "platform/win32/system_sound.h"
-#include "platform/win32/win.h"
+#include "platform/win32/system_library.h"
 
 #include <mmsystem.h>
 
@@ -8,7 +8,8 @@
 namespace wordhawk {
 
 bool SystemSound::Play(std::wstring_view file) {
-    return sndPlaySoundW(std::wstring(file).c_str(), SND_ASYNC | SND_NODEFAULT) != FALSE;
+    static const auto play = SystemFunction<decltype(sndPlaySoundW)>(L"winmm.dll", "sndPlaySoundW");
+    return play != nullptr && play(std::wstring(file).c_str(), SND_ASYNC | SND_NODEFAULT) != FALSE;
 }
 
 }  // namespace wordhawk

@@ -1,5 +1,7 @@
 #include "ui/framework/theme.h"
 
+#include "platform/win32/system_library.h"
+
 #include <dwmapi.h>
 #include <uxtheme.h>
 
@@ -101,7 +103,9 @@ HBRUSH Theme::Prepare(UINT message, HDC device, HWND control) const {
 void Theme::Decorate(HWND form) const {
     constexpr DWORD kUseImmersiveDarkMode = 20;
     const BOOL dark = Dark();
-    DwmSetWindowAttribute(form, kUseImmersiveDarkMode, &dark, sizeof dark);
+    static const auto set_attribute =
+        SystemFunction<decltype(DwmSetWindowAttribute)>(L"dwmapi.dll", "DwmSetWindowAttribute");
+    if (set_attribute != nullptr) set_attribute(form, kUseImmersiveDarkMode, &dark, sizeof dark);
     EnumChildWindows(
         form,
         [](HWND child, LPARAM theme) {
@@ -113,7 +117,9 @@ void Theme::Decorate(HWND form) const {
 }
 
 void Theme::DecorateControl(HWND control) const {
-    SetWindowTheme(control, Dark() ? L"DarkMode_Explorer" : nullptr, nullptr);
+    static const auto set_theme =
+        SystemFunction<decltype(SetWindowTheme)>(L"uxtheme.dll", "SetWindowTheme");
+    if (set_theme != nullptr) set_theme(control, Dark() ? L"DarkMode_Explorer" : nullptr, nullptr);
 }
 
 }  // namespace wordhawk

@@ -1,5 +1,7 @@
 #include "ui/framework/controls/RichEdit.h"
 
+#include "platform/win32/system_library.h"
+
 #include <richedit.h>
 
 #include <algorithm>
@@ -42,7 +44,7 @@ CHARFORMAT2W EmptyFormat() {
 
 void RichEdit::Create(const Where& where) {
     // For the life of the process: windows of its class outlive this object.
-    static const HMODULE library = LoadLibraryW(L"msftedit.dll");
+    static const HMODULE library = LoadSystemLibrary(L"msftedit.dll");
     static_cast<void>(library);
     where_ = where;
     // No drag and drop of objects: files dropped here go to the form, objects nowhere. The scroll
