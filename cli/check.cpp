@@ -73,6 +73,8 @@ class FileChecker {
             base += block->size();
             if (progress != nullptr) progress->Show(name, blocks.PercentRead());
         }
+        // Words of a dictionary that cannot be read are not unknown ones.
+        if (result.error_line.empty()) result.error_line = UnreadableLines(store_);
         result.found = !checker.Words().empty();
         if (options_.format == CheckFormat::List) result.words = checker.Words();
         return result;
@@ -112,7 +114,8 @@ class Summary {
         if (!result.error_line.empty()) {
             failed_ = true;
             out_.Flush();
-            ShowMessageLine(result.error_line);
+            // Each file meets a dictionary that cannot be read; once is enough.
+            if (told_.insert(result.error_line).second) ShowMessageLine(result.error_line);
         }
     }
 
@@ -125,6 +128,7 @@ class Summary {
   private:
     Output& out_;
     std::unordered_set<std::wstring> listed_;
+    std::unordered_set<std::string> told_;
     bool found_ = false;
     bool failed_ = false;
 };

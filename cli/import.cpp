@@ -20,7 +20,8 @@ int RunImport(const GlobalOptions& global, const std::string& file) {
     Session session(global);
     Program& program = session.program;
     const Path source = PathFromArgument(file);
-    if (!IsFile(source)) return Fail(MessageLine(file, "no such file"));
+    if (const auto readable = ReadWholeFile(source, Accepted::Streams); !readable)
+        return Fail(MessageLine(file, ToUtf8(readable.error().what)));
     const auto name = CustomDictionaryName(TextFromPath(source.filename()));
     if (!name) return Fail(MessageLine(file, ToUtf8(name.error().what)));
     const Path target = program.dictionaries.CustomPath(*name);

@@ -1,3 +1,4 @@
+#include "app/prepare_folders.h"
 #include "cli/commands.h"
 #include "cli/console.h"
 #include "cli/options.h"
@@ -5,7 +6,6 @@
 #include "cli/session.h"
 
 #include <cstdio>
-#include <exception>
 
 namespace wordhawk {
 namespace {
@@ -13,6 +13,12 @@ namespace {
 int Run(const Options& options) {
     if (const auto wrong = WrongOverride(options.global)) {
         ShowMessageLine(MessageLine(*wrong));
+        return kExitFailed;
+    }
+    const bool needs_data = options.command != Command::BuildDictionary;
+    if (needs_data && options.global.data_folder.empty() && ComputeDataFolder().empty()) {
+        ShowMessageLine(
+            MessageLine("this user has no home folder; name a data folder with --data"));
         return kExitFailed;
     }
     switch (options.command) {
@@ -37,8 +43,10 @@ int Main(int argc, char** argv) {
                                          ? ParseIspellCommandLine(arguments)
                                          : ParseCommandLine(arguments);
     if (parsed.options) return Run(*parsed.options);
-    std::fwrite(parsed.text.data(), 1, parsed.text.size(), parsed.exit_code == 0 ? stdout : stderr);
-    return parsed.exit_code;
+    Output out(parsed.exit_code == 0 ? stdout : stderr);
+    out << parsed.text;
+    out.Flush();
+    return out.Failed() ? kExitFailed : parsed.exit_code;
 }
 
 }  // namespace

@@ -3,6 +3,9 @@
 #include "platform/files.h"
 #include "platform/text.h"
 
+#include <cerrno>
+#include <system_error>
+
 namespace wordhawk {
 
 Output& Output::operator<<(std::wstring_view text) {
@@ -15,12 +18,14 @@ Output& Output::operator<<(std::wstring_view text) {
 
 void Output::Flush() {
     if (stream_ == nullptr) return;
-    if (!buffer_.empty() &&
-        std::fwrite(buffer_.data(), 1, buffer_.size(), stream_) != buffer_.size()) {
-        failed_ = true;
-    }
+    const bool written = (buffer_.empty() || std::fwrite(buffer_.data(), 1, buffer_.size(),
+                                                         stream_) == buffer_.size()) &&
+                         std::fflush(stream_) == 0;
     buffer_.clear();
-    if (std::fflush(stream_) != 0) failed_ = true;
+    if (written || std::exchange(failed_, true)) return;
+    // A reader who has seen enough and went away needs no telling.
+    if (errno != EPIPE)
+        ShowMessageLine(MessageLine("the output", std::generic_category().message(errno)));
 }
 
 std::string MessageLine(std::string_view text) {

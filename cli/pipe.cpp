@@ -17,9 +17,19 @@ int RunPipe(const GlobalOptions& global) {
     PipeSession pipe(session.program, out);
     InputLines lines;
     std::string line;
-    while (!out.Failed() && lines.Next(line, [&out] { out.Flush(); })) pipe.HandleLine(line);
+    const DictionaryStore& store = session.program.dictionaries;
+    bool told = false;
+    while (!out.Failed() && lines.Next(line, [&out] { out.Flush(); })) {
+        pipe.HandleLine(line);
+        // At once, and once: the conversation may go on for hours.
+        if (!told && !store.Unreadable().empty()) {
+            ShowMessageLine(UnreadableLines(store));
+            told = true;
+        }
+    }
     out.Flush();
-    return out.Failed() || lines.Failed() ? kExitFailed : kExitFine;
+    const bool failed = out.Failed() || lines.Failed() || pipe.SaveFailed() || told;
+    return failed ? kExitFailed : kExitFine;
 }
 
 }  // namespace wordhawk

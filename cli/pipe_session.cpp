@@ -77,6 +77,7 @@ void PipeSession::SavePersonalWords() {
     Progress no_progress;
     const auto added =
         AddWordsToDictionary(store, personal_, AddTarget::ActiveCustom, path, no_progress);
+    save_failed_ = !added;
     if (!added) {
         ShowMessageLine(MessageLine(added.error()));  // and keep them: the next "#" tries again
         return;

@@ -26,6 +26,9 @@ class PipeSession {
     /// are in the encoding that the client was last seen to use.
     void HandleLine(std::string_view line);
 
+    /// Whether the last attempt to save words failed.
+    bool SaveFailed() const { return save_failed_; }
+
   private:
     enum class Detail { Full, Terse, WithCorrectWords };
 
@@ -44,6 +47,7 @@ class PipeSession {
     std::uint64_t fed_ = 0;  // units that checker_ was given
     Detail detail_ = Detail::Full;
     bool ansi_client_ = false;
+    bool save_failed_ = false;
     /// Lower-cased words that count as known until the end.
     std::unordered_set<std::wstring> accepted_;
     /// Words for the personal dictionary that were not saved yet.

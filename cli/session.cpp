@@ -36,7 +36,9 @@ Answer StderrUi::ShowMessage(std::wstring_view text, std::wstring_view, MessageI
     return Answer::Ok;
 }
 
-Session::Session(const GlobalOptions& options) : program(ToProgramOptions(options), ui) {}
+Session::Session(const GlobalOptions& options) : program(ToProgramOptions(options), ui) {
+    if (program.install_failure) ShowMessageLine(MessageLine(*program.install_failure));
+}
 
 std::optional<std::string> WrongOverride(const GlobalOptions& options) {
     for (const auto& [key, value] : options.settings) {
@@ -55,7 +57,8 @@ std::optional<std::string> WrongOverride(const GlobalOptions& options) {
 
 bool HasDictionaries(Program& program) {
     // Nearly every language has words that begin so, which saves reading the folder at each start.
-    if (IsFile(program.state.LanguageDictFolder / "in_.dic")) return true;
+    // One that is there and cannot be read is told of when it is needed.
+    if (!IsMissing(program.state.LanguageDictFolder / "in_.dic")) return true;
     std::error_code error;
     std::filesystem::directory_iterator entry(program.state.LanguageDictFolder, error);
     for (const std::filesystem::directory_iterator end; !error && entry != end;
@@ -65,6 +68,26 @@ bool HasDictionaries(Program& program) {
     return std::any_of(
         program.settings.CustomDictionaries.begin(), program.settings.CustomDictionaries.end(),
         [&](const std::wstring& name) { return IsFile(program.dictionaries.CustomPath(name)); });
+}
+
+std::string UnreadableLines(const DictionaryStore& store) {
+    constexpr std::size_t kMostLines = 3;
+    const std::vector<Error>& unreadable = store.Unreadable();
+    std::string lines;
+    for (std::size_t i = 0; i < unreadable.size() && i < kMostLines; ++i)
+        lines += MessageLine(unreadable[i]);
+    if (unreadable.size() > kMostLines) {
+        lines += MessageLine(std::to_string(unreadable.size() - kMostLines) +
+                             " more dictionary files cannot be read");
+    }
+    return lines;
+}
+
+int FinishedWith(int exit_code, const DictionaryStore& store) {
+    const std::string lines = UnreadableLines(store);
+    if (lines.empty()) return exit_code;
+    ShowMessageLine(lines);
+    return kExitFailed;
 }
 
 std::string NoDictionariesLine(const Program& program) {

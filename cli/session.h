@@ -31,6 +31,13 @@ std::optional<std::string> WrongOverride(const GlobalOptions& options);
 /// Whether the language in force has any dictionary file, or the user any custom one.
 bool HasDictionaries(Program& program);
 
+/// A line for each dictionary file that is there but could not be read, as far as a person wants to
+/// read them; empty when there was none.
+std::string UnreadableLines(const DictionaryStore& store);
+
+/// `exit_code`, or the code for a failure after telling of dictionaries that could not be read.
+int FinishedWith(int exit_code, const DictionaryStore& store);
+
 /// The line that says that there are none.
 std::string NoDictionariesLine(const Program& program);
 

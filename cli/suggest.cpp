@@ -30,7 +30,7 @@ int RunSuggest(const GlobalOptions& global, const WordOptions& options) {
         ShowMessageLine(NoDictionariesLine(program));
         return kExitFailed;
     }
-    return out.Failed() ? kExitFailed : kExitFine;
+    return FinishedWith(out.Failed() ? kExitFailed : kExitFine, program.dictionaries);
 }
 
 }  // namespace wordhawk

@@ -5,6 +5,8 @@
 #include "dict/custom_words.h"
 #include "dict/dictionary_names.h"
 
+#include <algorithm>
+
 namespace wordhawk {
 namespace {
 
@@ -47,14 +49,17 @@ int RunRemove(const GlobalOptions& global, const WordOptions& options) {
     for (const std::string& argument : options.words) {
         const std::wstring text = TextOfBytes(argument, store.Page());
         const std::wstring_view word = Trim(text);
-        const auto removed = RemoveWordFromDictionaries(store, word);
-        if (!removed) return Fail(MessageLine(removed.error()));
-        if (removed->empty()) {
+        const Removal removal = RemoveWordFromDictionaries(store, word);
+        for (const Error& failure : removal.failures) {
+            ShowMessageLine(MessageLine(failure));
+            exit_code = kExitFailed;
+        }
+        if (!removal.file.empty()) {
+            store.ReloadFile(removal.file);
+            out << word << '\t' << TextFromPath(removal.file.filename()) << '\n';
+        } else if (removal.failures.empty()) {
             ShowMessageLine(MessageLine(argument, "is in no dictionary"));
-            exit_code = kExitFound;
-        } else {
-            store.ReloadFile(*removed);
-            out << word << '\t' << TextFromPath(removed->filename()) << '\n';
+            exit_code = std::max(exit_code, kExitFound);
         }
     }
     out.Flush();

@@ -20,7 +20,7 @@ constexpr wchar_t kByteOrderMark = 0xFEFF;
 /// Calls `use(word)` for every line of a list, trimmed and lower-cased, unless it is empty.
 template <class Use>
 Result<void> ForEachWordOf(const Path& list, const AnsiCodePage& page, Use&& use) {
-    const Result<std::string> bytes = ReadWholeFile(list);
+    const Result<std::string> bytes = ReadWholeFile(list, Accepted::Streams);
     if (!bytes) return tl::unexpected(bytes.error());
     const bool is_utf8 = IsUtf8(*bytes);
     bool at_start = true;

@@ -165,22 +165,31 @@ Result<void> AddWordsToDictionary(DictionaryStore& store, std::span<const std::w
     return outcome;
 }
 
-Result<Path> RemoveWordFromDictionaries(DictionaryStore& store, std::wstring_view word) {
-    if (word.empty() || !PageHolds(word, store.Page())) return Path();
+Removal RemoveWordFromDictionaries(DictionaryStore& store, std::wstring_view word) {
+    Removal removal;
+    if (word.empty() || !PageHolds(word, store.Page())) return removal;
     const std::string line = EntryLine(word, store.Page());
     const std::string_view entry = WithoutLineEnd(line);
-    const Path main = store.MainPathFor(Lower(word));
-    Result<bool> removed = RemoveEntryFromFile(main, entry);
-    if (removed && *removed) return main;
-    for (std::size_t i = 0; removed && i < store.CustomCount(); ++i) {
-        const Path custom = store.CustomPath(store.CustomName(i));
-        removed = RemoveEntryFromFile(custom, entry);
-        if (!removed || !*removed) continue;
-        store.ReloadCustomDictionaries();
-        return custom;
+    std::vector<Path> files = {store.MainPathFor(Lower(word))};
+    for (std::size_t i = 0; i < store.CustomCount(); ++i)
+        files.push_back(store.CustomPath(store.CustomName(i)));
+    for (const Path& file : files) {
+        const Result<bool> holds = FileHoldsEntry(file, entry);
+        if (!holds) removal.failures.push_back(holds.error());
+        if (!holds.value_or(false)) continue;
+        const Result<bool> removed = RemoveEntryFromFile(file, entry);
+        if (!removed) {
+            // It stays where it was found; the files behind are not its place.
+            removal.failures.push_back(removed.error());
+            break;
+        }
+        // Another program may have been faster.
+        if (!*removed) continue;
+        removal.file = file;
+        if (file != files.front()) store.ReloadCustomDictionaries();
+        break;
     }
-    if (!removed) return tl::unexpected(removed.error());
-    return Path();
+    return removal;
 }
 
 Result<bool> RemoveWordFromCustomDictionary(DictionaryStore& store, std::wstring_view word,

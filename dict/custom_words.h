@@ -23,9 +23,17 @@ Result<void> AddWordToDictionary(DictionaryStore& store, std::wstring_view word,
 Result<void> AddWordsToDictionary(DictionaryStore& store, std::span<const std::wstring> words,
                                   AddTarget target, Path& path, Progress& progress);
 
+/// What came of removing a word.
+struct Removal {
+    /// The file that it was removed from; empty when none was changed.
+    Path file;
+    /// Files that could not be read and were passed over, or the one that has the word and could
+    /// not be written.
+    std::vector<Error> failures;
+};
+
 /// Removes the word's entry from the first dictionary that has it: main, then custom in order.
-/// Returns the file it was removed from, empty when no file holds it.
-Result<Path> RemoveWordFromDictionaries(DictionaryStore& store, std::wstring_view word);
+Removal RemoveWordFromDictionaries(DictionaryStore& store, std::wstring_view word);
 
 /// Removes the word's entry from one custom file (CUSTOM.DIC when `path` is empty) and reloads the
 /// custom dictionaries. Returns whether there was one.

@@ -85,6 +85,8 @@ Path DictionaryStore::MainPathFor(std::wstring_view lower_word) const {
 
 DictionaryStore::Loaded DictionaryStore::Read(Path path) {
     Result<std::string> bytes = ReadWholeFile(path);
+    std::erase_if(unreadable_, [&](const Error& known) { return known.where == path; });
+    if (!bytes && !IsMissing(path)) unreadable_.push_back(bytes.error());
     // What cannot be read counts as empty, but it is there.
     const bool exists = bytes.has_value() || IsFile(path);
     return {DictionaryFile(bytes ? std::move(*bytes) : std::string()), exists, std::move(path)};
@@ -152,7 +154,8 @@ void DictionaryStore::SyncCustomSet() {
 
 DictionaryStore::Loaded& DictionaryStore::LoadCustom(Custom& custom) {
     if (!custom.is_loaded) {
-        custom.content = Read(CustomPath(custom.name));
+        // A listed name that is no file name stands for no file.
+        custom.content = IsPlainFileName(custom.name) ? Read(CustomPath(custom.name)) : Loaded();
         custom.is_loaded = true;
     }
     return custom.content;

@@ -18,7 +18,8 @@ enum class Scope { MainOnly, MainAndCustom };
 
 /// The dictionaries in memory: main files cached for the life of the process as they are first
 /// needed, custom files in the order of the list. Words are looked up lower-cased; the code page is
-/// `state.CodePage`. A missing file is cached too, as an empty one. One thread.
+/// `state.CodePage`. A missing file is cached too, as an empty one; so is one that is there but
+/// cannot be read, which Unreadable tells of. One thread.
 class DictionaryStore {
   public:
     /// Both objects must outlive the store; their folders, names and page may change in between.
@@ -65,6 +66,10 @@ class DictionaryStore {
     /// rewritten.
     void ReloadFile(const Path& path);
 
+    /// The files that are there but could not be read, each once, in the order met: their words
+    /// count as unknown, so whoever shows results must say so.
+    const std::vector<Error>& Unreadable() const { return unreadable_; }
+
     ProgramState& State() { return state_; }
     Settings& CurrentSettings() { return settings_; }
     const AnsiCodePage& Page() const { return *state_.CodePage; }
@@ -83,7 +88,7 @@ class DictionaryStore {
     using Row = std::array<const DictionaryFile*, 256>;
 
     const DictionaryFile& OpenMainFileOfBytes(unsigned char first, unsigned char second);
-    static Loaded Read(Path path);
+    Loaded Read(Path path);
     Loaded& LoadMain(const Path& path);
     void SyncCustomSet();
     Loaded& LoadCustom(Custom& custom);
@@ -99,6 +104,7 @@ class DictionaryStore {
     /// In the order of the list, for the folder below.
     std::vector<Custom> custom_;
     Path::string_type custom_data_folder_;
+    std::vector<Error> unreadable_;
     /// The word being looked up, kept for its memory.
     std::string lower_bytes_;
 };

@@ -87,7 +87,7 @@ Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& f
     if (!name) return tl::unexpected(name.error());
     const Path target = store.CustomPath(*name);
 
-    const std::string bytes = ReadWholeFile(source).value_or(std::string());
+    const std::string bytes = ReadWholeFile(source, Accepted::Streams).value_or(std::string());
     if (bytes.empty()) {
         ui.ShowMessage(modLoadRes::LoadResText(state, text_id::kHoldsNoWords),
                        modLoadRes::LoadResText(state, text_id::kDictionaryIsEmpty),

@@ -21,9 +21,14 @@ bool HasDictionary(const Path& folder) {
     return false;
 }
 
+tl::unexpected<Error> NotInstalled(std::wstring_view reason, const Path& folder) {
+    return tl::unexpected(Error{
+        L"the language's dictionaries could not be installed: " + std::wstring(reason), folder});
+}
+
 }  // namespace
 
-bool InstallShippedDictionaries(const ProgramState& state, const Path& shipped) {
+Result<bool> InstallShippedDictionaries(const ProgramState& state, const Path& shipped) {
     // The setting ends in a separator; the copy is made beside the folder itself.
     const Path target = state.LanguageDictFolder.has_filename()
                             ? state.LanguageDictFolder
@@ -34,15 +39,17 @@ bool InstallShippedDictionaries(const ProgramState& state, const Path& shipped) 
     if (pack == 0 || !HasDictionary(source)) return false;
 
     const auto only_writer = SingleWriter::Acquire(target.parent_path());
-    if (!only_writer || HasDictionary(target)) return HasDictionary(target);
+    if (HasDictionary(target)) return true;
+    if (!only_writer) return NotInstalled(only_writer.error().what, target);
     Path copy = target;
     copy += ".new";
     std::error_code failed;
     fs::remove_all(copy, failed);
     fs::copy(source, copy, failed);
     if (failed) {
+        const std::wstring reason = FromUtf8(failed.message());
         fs::remove_all(copy, failed);
-        return false;
+        return NotInstalled(reason, target);
     }
     // The empty folder gives way to the finished one; other files in it are not ours to remove.
     fs::remove(target, failed);
@@ -54,7 +61,8 @@ bool InstallShippedDictionaries(const ProgramState& state, const Path& shipped) 
         }
         fs::remove_all(copy, failed);
     }
-    return HasDictionary(target);
+    if (!HasDictionary(target)) return NotInstalled(L"they cannot be moved there", target);
+    return true;
 }
 
 }  // namespace wordhawk

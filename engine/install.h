@@ -1,13 +1,15 @@
 #pragma once
 
 #include "app/program_state.h"
+#include "platform/result.h"
 
 namespace wordhawk {
 
 /// Copies the shipped dictionaries of the language in force from `shipped` (one folder a pack,
 /// named by its locale number) into the language's dictionary folder, when that folder has no
-/// dictionary yet. The copy appears there whole or not at all. True when the folder has
-/// dictionaries afterwards.
-bool InstallShippedDictionaries(const ProgramState& state, const Path& shipped);
+/// dictionary yet. The copy appears there whole or not at all. Whether the folder has
+/// dictionaries afterwards: false when none are shipped for the language. Errors: those that are
+/// could not be copied.
+Result<bool> InstallShippedDictionaries(const ProgramState& state, const Path& shipped);
 
 }  // namespace wordhawk

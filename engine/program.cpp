@@ -74,9 +74,11 @@ void Program::InstallLanguages() {
 
 void Program::InstallDictionaries() {
     if (!options_.install_shipped) return;
-    InstallShippedDictionaries(state, options_.shipped_dictionaries.empty()
-                                          ? ShippedFolder(ProgramFolder(), "dictionaries")
-                                          : options_.shipped_dictionaries);
+    const Result<bool> installed =
+        InstallShippedDictionaries(state, options_.shipped_dictionaries.empty()
+                                              ? ShippedFolder(ProgramFolder(), "dictionaries")
+                                              : options_.shipped_dictionaries);
+    install_failure = installed ? std::nullopt : std::optional(installed.error());
 }
 
 }  // namespace wordhawk

@@ -6,6 +6,7 @@
 #include "dict/dictionary_store.h"
 #include "platform/ui_services.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -44,6 +45,9 @@ class Program {
     DelimiterFlagStore flags;
     Settings settings;
     DictionaryStore dictionaries;
+    /// Why the language in force has no dictionaries, when they are shipped but could not be
+    /// copied.
+    std::optional<Error> install_failure;
 
     /// Reads the settings and the custom dictionary list again, after a dialog changed them.
     void ReloadSettings();

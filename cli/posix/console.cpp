@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 
 namespace wordhawk {
 
@@ -33,7 +34,10 @@ std::ptrdiff_t ReadStandardInput(char* buffer, std::size_t size) {
     return got;
 }
 
-ConsoleMode::ConsoleMode() = default;
+ConsoleMode::ConsoleMode() {
+    // A file that passes the user's limit is an error to be told of, and not the end of us.
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 ConsoleMode::~ConsoleMode() = default;
 
 }  // namespace wordhawk

@@ -125,7 +125,7 @@ class Import(CliTest):
         self.assertEqual(self.run_cli("--flag", "249=0", "import", "all.dic"), "3\n")
 
     def test_refuses_missing_files_and_odd_names(self):
-        self.assertIn("no such file", self.fail_cli("import", "missing.dic"))
+        self.assertIn("the file does not exist", self.fail_cli("import", "missing.dic"))
         self.write("old.txt", "")
         message = self.run_raw("import", "old.txt")
         self.assertEqual(message.stdout, b"0\n")

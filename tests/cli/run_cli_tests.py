@@ -15,6 +15,7 @@ import tempfile
 import time
 import unittest
 
+import broken_test
 import check_test
 import commands_test
 import compare_test
@@ -72,7 +73,7 @@ def main():
 
     suite = unittest.TestSuite()
     loader = unittest.defaultTestLoader
-    for module in [check_test, commands_test, pipe_test, compare_test]:
+    for module in [broken_test, check_test, commands_test, pipe_test, compare_test]:
         if options.names:
             for name in options.names:
                 if hasattr(module, name.split(".")[0]):

@@ -184,17 +184,17 @@ TEST(RemoveWord, TakesItFromTheFirstDictionaryThatHasIt) {
     data.settings.CustomDictionaries = {L"CUSTOM.DIC", L"missing.dic", L"other.dic"};
     const Path main = data.store.MainPathFor(L"hello");
 
-    EXPECT_EQ(RemoveWordFromDictionaries(data.store, L"HELLO").value(), main);
+    EXPECT_EQ(RemoveWordFromDictionaries(data.store, L"HELLO").file, main);
     EXPECT_EQ(ReadBytes(main), "help,72410\r\n");
     EXPECT_EQ(ReadBytes(CustomFile(data)), "hello,72400\r\nzebra,90160\r\nzebra,90160\r\nbare\r\n");
 
-    EXPECT_EQ(RemoveWordFromDictionaries(data.store, L"hello").value(), CustomFile(data));
+    EXPECT_EQ(RemoveWordFromDictionaries(data.store, L"hello").file, CustomFile(data));
     EXPECT_FALSE(data.store.IsWordInCustomDictionaries(L"hello"));
-    EXPECT_EQ(RemoveWordFromDictionaries(data.store, L"zebra").value(), CustomFile(data));
+    EXPECT_EQ(RemoveWordFromDictionaries(data.store, L"zebra").file, CustomFile(data));
     EXPECT_EQ(ReadBytes(CustomFile(data)), "zebra,90160\r\nbare\r\n");
 
     for (const std::wstring_view word : {L"bare", L"unknown", L"", L"\u65E5"}) {
-        EXPECT_EQ(RemoveWordFromDictionaries(data.store, word).value(), Path())
+        EXPECT_EQ(RemoveWordFromDictionaries(data.store, word).file, Path())
             << testing::PrintToString(word);
     }
     EXPECT_EQ(ReadBytes(CustomFile(data)), "zebra,90160\r\nbare\r\n");

@@ -153,5 +153,28 @@ TEST(DictionaryStore, AFileThatCannotBeReadCountsAsEmpty) {
     EXPECT_FALSE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
 }
 
+TEST(DictionaryStore, TellsOfFilesThatCannotBeRead) {
+    Dictionaries data;
+    const Path main = data.store.MainPathFor(L"hello");
+    const Path custom = data.state.CustomFolder() / "CUSTOM.DIC";
+    data.store.IsWordInDictionaries(L"hello", Scope::MainAndCustom);
+    EXPECT_TRUE(data.store.Unreadable().empty()) << "missing files are no error";
+    for (const Path& file : {main, custom}) {
+        // A folder in a file's place stands for whatever the system refuses to read.
+        std::filesystem::create_directories(file);
+        data.store.ReloadFile(file);
+    }
+    data.store.IsWordInDictionaries(L"hello", Scope::MainAndCustom);
+    data.store.IsWordInDictionaries(L"help", Scope::MainAndCustom);
+    ASSERT_EQ(data.store.Unreadable().size(), 2u);
+    EXPECT_EQ(data.store.Unreadable()[0].where, main);
+    EXPECT_EQ(data.store.Unreadable()[1].where, custom);
+    std::filesystem::remove(main);
+    test::WriteBytes(main, "hello,72400\r\n");
+    data.store.ReloadFile(main);
+    EXPECT_EQ(data.store.Unreadable().size(), 1u) << "it can be read again";
+    EXPECT_TRUE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
+}
+
 }  // namespace
 }  // namespace wordhawk

@@ -89,5 +89,18 @@ TEST_F(ProgramTest, ForAutomationTheProgramOnlySettingsStayZero) {
     EXPECT_FALSE(program.state.WindowMode);
 }
 
+TEST_F(ProgramTest, DictionariesThatCannotBeInstalledAreToldOf) {
+    const ProgramOptions options = Options();
+    test::WriteBytes(folder_ / L"shipped" / "2057" / "he_.dic", "hello,72400\r\n");
+    // Nobody can lock where a folder stands in the lock file's place.
+    const Path lock = options.data_folder / "Dictionarys" / ".wordhawk.lock";
+    std::filesystem::create_directories(lock);
+    const Program program(options, ui_);
+    ASSERT_TRUE(program.install_failure);
+    EXPECT_EQ(program.install_failure->where, program.state.DataFolder / "Dictionarys" / "2057");
+    std::filesystem::remove(lock);
+    EXPECT_FALSE(Program(options, ui_).install_failure);
+}
+
 }  // namespace
 }  // namespace wordhawk

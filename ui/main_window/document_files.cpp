@@ -46,7 +46,13 @@ bool DocumentFiles::LoadCommandFile() {
     const Path file = PathFromText(CommandFile());
     const std::uint8_t type = modValidations::GetFileType(CommandFile());
     if (type > modValidations::kRichTextFile) {
-        const bool missing = !modValidations::FileExists(CommandFile());
+        const bool missing = IsMissing(file);
+        if (type == modValidations::kMissingFile && !missing) {
+            // It is there and cannot be opened: the system knows why.
+            const Result<std::string> read = ReadWholeFile(file);
+            parts_.commands.ShowError(text_id::kCannotRead, read ? Error{{}, file} : read.error());
+            return false;
+        }
         parts_.commands.ShowError(missing ? text_id::kFileMissing : text_id::kWrongFileType,
                                   Error{{}, file});
         return false;

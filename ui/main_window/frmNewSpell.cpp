@@ -16,7 +16,6 @@
 #include <richedit.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace wordhawk {
 
@@ -220,15 +219,6 @@ void frmNewSpell::cmdSpellcheck_Click() {
 
 long frmNewSpell::SpellCheck(SpellCheckArguments& arguments) {
     return cSpellit(program_, check_).SpellCheck(arguments);
-}
-
-void frmNewSpell::TellOfUnreadable() {
-    if (const auto failure = std::exchange(program_.install_failure, std::nullopt))
-        commands_.ShowError(text_id::kCannotInstall, *failure);
-    const std::vector<Error>& unreadable = program_.dictionaries.Unreadable();
-    if (unreadable_told_ == unreadable.size()) return;
-    unreadable_told_ = unreadable.size();
-    commands_.ShowError(text_id::kCannotReadDictionary, unreadable.back());
 }
 
 void frmNewSpell::CheckDocument() {

@@ -1,5 +1,6 @@
 // Which event of which control, menu or key calls which method of the main window.
 #include "engine/session/captions.h"
+#include "lang/text_ids.h"
 #include "ui/framework/themed_drawing.h"
 #include "ui/main_window/frmNewSpell.h"
 #include "ui/resource.h"
@@ -8,6 +9,7 @@
 #include <richedit.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace wordhawk {
 
@@ -187,6 +189,15 @@ frmNewSpell::Reply frmNewSpell::OnMessage(UINT message, WPARAM wparam, LPARAM lp
         return 0;
     }
     return Dialog::OnMessage(message, wparam, lparam);
+}
+
+void frmNewSpell::TellOfUnreadable() {
+    if (const auto failure = std::exchange(program_.install_failure, std::nullopt))
+        commands_.ShowError(text_id::kCannotInstall, *failure);
+    const std::vector<Error>& unreadable = program_.dictionaries.Unreadable();
+    if (unreadable_told_ == unreadable.size()) return;
+    unreadable_told_ = unreadable.size();
+    commands_.ShowError(text_id::kCannotReadDictionary, unreadable.back());
 }
 
 }  // namespace wordhawk
