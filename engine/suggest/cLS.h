@@ -16,6 +16,10 @@ class cLS {
     std::int32_t LevenshteinDistance(std::wstring_view source, std::wstring_view target,
                                      Transposition transposition);
 
+    /// Whether the distance without swaps is at most `limit`: looks at no more than 2 * limit + 1
+    /// cells of each row.
+    bool IsWithin(std::wstring_view source, std::wstring_view target, std::int32_t limit);
+
     /// The smaller value; 0 when both are equal.
     static std::int32_t MinOf2(std::int32_t a, std::int32_t b) { return a < b ? a : b < a ? b : 0; }
     static std::int32_t MinOf3(std::int32_t a, std::int32_t b, std::int32_t c) {

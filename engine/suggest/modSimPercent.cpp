@@ -1,8 +1,12 @@
 #include "engine/suggest/modSimPercent.h"
 
+#include "engine/suggest/wildcard_match.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <string>
+#include <vector>
 
 namespace wordhawk::modSimPercent {
 namespace {
@@ -16,6 +20,58 @@ std::int32_t ToPercent(double ratio) {
     if (rest > 0.5) return whole + 1;
     if (rest < 0.5) return whole;
     return whole % 2 == 0 ? whole : whole + 1;
+}
+
+/// A piece of a text; places count from 1.
+struct Piece {
+    std::int32_t first;
+    std::int32_t last;
+    std::int64_t Length() const { return last - first + 1; }
+};
+struct CommonRun {
+    std::int32_t in_word = 0;
+    std::int32_t in_candidate = 0;
+    std::int32_t length = 0;
+};
+
+char At(std::string_view text, std::int32_t place) {
+    return text[static_cast<std::size_t>(place - 1)];
+}
+
+/// Start by start: the quickest way for words as they are.
+CommonRun LongestRunOfShort(std::string_view word, std::string_view candidate, Piece a, Piece b) {
+    CommonRun best;
+    // A start too near the end to beat the best run need not be tried.
+    for (std::int32_t i = a.first; i + best.length <= a.last; ++i) {
+        for (std::int32_t j = b.first; j + best.length <= b.last; ++j) {
+            std::int32_t k = 0;
+            while (i + k <= a.last && j + k <= b.last && At(word, i + k) == At(candidate, j + k))
+                ++k;
+            if (k > best.length) {
+                best = {i, j, k};
+                if (i + k > a.last) break;
+            }
+        }
+    }
+    return best;
+}
+
+/// Each pair of places once, whatever the text: from the back, so that the run at a place is one
+/// more than the run behind it.
+CommonRun LongestRunOfLong(std::string_view word, std::string_view candidate, Piece a, Piece b) {
+    CommonRun best;
+    std::vector<std::int32_t> runs(static_cast<std::size_t>(b.Length()) + 1);
+    for (std::int32_t i = a.last; i >= a.first; --i) {
+        // Runs at i overwrite those at i + 1; ascending, each looks at the one not yet overwritten.
+        CommonRun here;
+        for (std::int32_t j = b.first; j <= b.last; ++j) {
+            const auto at = static_cast<std::size_t>(j - b.first);
+            runs[at] = At(word, i) == At(candidate, j) ? runs[at + 1] + 1 : 0;
+            if (runs[at] > here.length) here = {i, j, runs[at]};
+        }
+        if (here.length > 0 && here.length >= best.length) best = here;
+    }
+    return best;
 }
 
 }  // namespace
@@ -33,13 +89,7 @@ bool HoldsPatternCharacter(std::wstring_view word) {
 
 double WildcardRatio(std::wstring_view word, std::wstring_view candidate, std::int32_t word_length,
                      std::int32_t candidate_length) {
-    std::int32_t count = 0;
-    std::wstring pattern(word);
-    for (std::size_t i = 0; i < pattern.size() && count == 0; ++i) {
-        pattern[i] = L'*';
-        if (LikePattern(candidate, pattern)) count = word_length;
-        pattern[i] = word[i];
-    }
+    std::int32_t count = MatchesWithOneWildcard(word, candidate) ? word_length : 0;
     if (candidate_length != word_length) --count;
     return static_cast<double>(count) / word_length;
 }
@@ -47,29 +97,18 @@ double WildcardRatio(std::wstring_view word, std::wstring_view candidate, std::i
 std::int32_t CommonCharCount(std::string_view word, std::string_view candidate, std::int32_t first1,
                              std::int32_t last1, std::int32_t first2, std::int32_t last2) {
     if (first1 > last1 || first2 > last2 || first1 < 1 || first2 < 1) return 0;
-    std::int32_t best1 = 0;
-    std::int32_t best2 = 0;
-    std::int32_t best = 0;
-    // A start too near the end to beat the best run need not be tried.
-    for (std::int32_t i = first1; i + best <= last1; ++i) {
-        for (std::int32_t j = first2; j + best <= last2; ++j) {
-            std::int32_t k = 0;
-            while (i + k <= last1 && j + k <= last2 &&
-                   word[static_cast<std::size_t>(i + k - 1)] ==
-                       candidate[static_cast<std::size_t>(j + k - 1)]) {
-                ++k;
-            }
-            if (k > best) {
-                best = k;
-                best1 = i;
-                best2 = j;
-                if (i + best > last1) break;
-            }
-        }
-    }
-    if (best == 0) return 0;
-    return best + CommonCharCount(word, candidate, best1 + best, last1, best2 + best, last2) +
-           CommonCharCount(word, candidate, first1, best1 - 1, first2, best2 - 1);
+    constexpr std::int64_t kMostPairsOfShort = 64 * 64;
+    const Piece a{first1, last1};
+    const Piece b{first2, last2};
+    const CommonRun best = a.Length() * b.Length() <= kMostPairsOfShort
+                               ? LongestRunOfShort(word, candidate, a, b)
+                               : LongestRunOfLong(word, candidate, a, b);
+    if (best.length == 0) return 0;
+    return best.length +
+           CommonCharCount(word, candidate, best.in_word + best.length, last1,
+                           best.in_candidate + best.length, last2) +
+           CommonCharCount(word, candidate, first1, best.in_word - 1, first2,
+                           best.in_candidate - 1);
 }
 
 std::int32_t PercentOf(std::int32_t common, std::int32_t word_length, std::int32_t candidate_length,
@@ -89,7 +128,10 @@ std::int32_t SimilarityPercent(std::wstring_view word, std::wstring_view candida
     const auto b = static_cast<std::int32_t>(candidate.size());
     const std::int32_t common =
         CommonCharCount(page.Encode(Lower(word)), page.Encode(Lower(candidate)), 1, a, 1, b);
-    return PercentOf(common, a, b, WildcardRatio(word, candidate, a, b));
+    const double wildcard = WildcardRatio(word, candidate, a, b);
+    // The wildcard's count has 16 bits: a match of a longer word overflows it and ends the score.
+    if (wildcard > 0.0 && a > std::numeric_limits<std::int16_t>::max()) return 0;
+    return PercentOf(common, a, b, wildcard);
 }
 
 bool LikePattern(std::wstring_view text, std::wstring_view pattern) {

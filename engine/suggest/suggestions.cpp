@@ -47,13 +47,14 @@ class Search {
                              [&](const Suggestion& s) { return EqualIgnoringCase(s.word, best_); });
             found_.best = static_cast<int>(at - found_.list.begin());
         }
+        found_.work = matcher_.Work();
         return std::move(found_);
     }
 
   private:
     void Take(std::wstring candidate, std::int32_t key, std::int32_t score) {
         const bool is_word_itself = candidate == matcher_.LowerWord();
-        if (score > 0 && (is_word_itself || score > best_score_)) {
+        if (is_word_itself || score > best_score_) {
             best_score_ = score;
             if (!best_is_fixed_) {
                 best_ = candidate;

@@ -21,6 +21,9 @@ struct Suggestions {
     /// Index of the best suggestion in `list` (the first entry with its text), -1 when there is
     /// none.
     int best = -1;
+    /// Pairs of letters that the measures looked at beyond their quick forms: how the cost of a
+    /// search grows with its word, without a clock.
+    std::uint64_t work = 0;
 };
 
 /// The parameters of a search.

@@ -50,6 +50,33 @@ WordMatcher::WordMatcher(std::wstring_view word, const SuggestionRules& rules,
         limits_.push_back(LimitsForLength(static_cast<std::int32_t>(length)));
     }
     limits_.push_back(kNoLimits);
+    LimitLengths();
+}
+
+void WordMatcher::LimitLengths() {
+    const auto own = static_cast<std::int64_t>(word_.size());
+    if (!rules_.count_swaps) {
+        // Each letter more or less is an edit.
+        shortest_ = static_cast<std::size_t>(std::max(own - rules_.diversity, std::int64_t{0}));
+        const std::int64_t longest = own + rules_.diversity;
+        longest_ = longest < 0 ? 0 : static_cast<std::size_t>(longest);
+        return;
+    }
+    // A distance with swaps says nothing about lengths, but the score does: a shorter candidate
+    // lies wholly in common blocks at best, and the wildcard stands for one letter at least.
+    const auto reaches = [&](std::size_t length) {
+        return modSimPercent::PercentOf(
+                   static_cast<std::int32_t>(length), static_cast<std::int32_t>(own),
+                   static_cast<std::int32_t>(length), -1.0) >= rules_.score_threshold;
+    };
+    if (rules_.score_threshold <= 0 || lower_.find_first_of(L"*[") != std::wstring::npos) return;
+    std::size_t too_short = 0;
+    std::size_t enough = word_.size() - 1;
+    while (too_short + 1 < enough) {
+        const std::size_t middle = too_short + (enough - too_short) / 2;
+        (reaches(middle) ? enough : too_short) = middle;
+    }
+    shortest_ = enough;
 }
 
 WordMatcher::LetterLimits WordMatcher::LimitsForLength(std::int32_t length) const {
@@ -86,23 +113,27 @@ WordMatcher::LetterLimits WordMatcher::LimitsForLength(std::int32_t length) cons
     return limits;
 }
 
-bool WordMatcher::KeyPasses(std::int32_t key) const {
+WordMatcher::KeyTest WordMatcher::TestKey(std::int32_t key) const {
+    const auto test = [](bool passes, KeyTest otherwise) {
+        return passes ? KeyTest::Passes : otherwise;
+    };
+    const bool usual = IsFiveDigits(key) && IsFiveDigits(key_);
     switch (rules_.search_mode) {
         case 0:
-            if (IsFiveDigits(key) && IsFiveDigits(key_)) {
-                return key / 1000 == key_ / 1000 && key % 10 == key_ % 10;
-            }
-            return modSimPercent::LikePattern(std::to_wstring(key), key_pattern_);
+            return test(usual ? key / 1000 == key_ / 1000 && key % 10 == key_ % 10
+                              : modSimPercent::LikePattern(std::to_wstring(key), key_pattern_),
+                        KeyTest::TurnedAway);
         case 1:
-            // The pattern is of no use as a number, so it lets every key through; the score's own
-            // filter on three digits is what counts.
-            if (IsFiveDigits(key) && IsFiveDigits(key_)) return key / 100 == key_ / 100;
-            return modSimPercent::KeysAgree(key, key_, 1);
+            // The pattern is of no use as a number, so it lets every key through; it is the score
+            // that looks at three digits.
+            return test(usual ? key / 100 == key_ / 100 : modSimPercent::KeysAgree(key, key_, 1),
+                        KeyTest::ScoresNothing);
         case 2:
-            if (IsFiveDigits(key) && IsFiveDigits(key_)) return key / 10 == key_ / 10;
-            return modSimPercent::LikePattern(std::to_wstring(key), key_pattern_) &&
-                   modSimPercent::KeysAgree(key, key_, 2);
-        default: return false;
+            if (usual) return test(key / 10 == key_ / 10, KeyTest::TurnedAway);
+            if (!modSimPercent::LikePattern(std::to_wstring(key), key_pattern_))
+                return KeyTest::TurnedAway;
+            return test(modSimPercent::KeysAgree(key, key_, 2), KeyTest::ScoresNothing);
+        default: return KeyTest::TurnedAway;
     }
 }
 
@@ -166,23 +197,38 @@ std::int32_t WordMatcher::PlainScore(std::string_view candidate) const {
     return modSimPercent::PercentOf(common, own, length, wildcard);
 }
 
+bool WordMatcher::IsNear(std::string_view candidate) {
+    if (plain_distance_) return PlainDistance(candidate) <= rules_.diversity;
+    const std::wstring text = page_.Decode(candidate);
+    if (!rules_.count_swaps) {
+        work_ += word_.size() * (2 * static_cast<std::uint64_t>(rules_.diversity) + 1);
+        return distance_.IsWithin(word_, text, rules_.diversity);
+    }
+    work_ += std::uint64_t{word_.size()} * candidate.size();
+    return distance_.LevenshteinDistance(word_, text, Transposition::OneEdit) <= rules_.diversity;
+}
+
+std::int32_t WordMatcher::PassingScore(std::string_view candidate, std::uint64_t mask,
+                                       std::int32_t key) {
+    const bool lower_candidate = mask != kUnknownLetters;
+    if (plain_ && lower_candidate) return PlainScore(candidate);
+    work_ += std::uint64_t{word_.size()} * (candidate.size() + 1);
+    return modSimPercent::SimilarityPercent(lower_, page_.Decode(candidate), key, key_,
+                                            rules_.search_mode, page_);
+}
+
 std::optional<std::int32_t> WordMatcher::Score(std::string_view candidate, std::uint64_t mask,
                                                std::int32_t key) {
-    if (!KeyPasses(key)) return std::nullopt;
-    if (plain_distance_ && PlainDistance(candidate) > rules_.diversity) return std::nullopt;
-    const bool lower_candidate = mask != kUnknownLetters;
-    const std::int32_t score = plain_ && lower_candidate ? PlainScore(candidate)
-                                                         : modSimPercent::SimilarityPercent(
-                                                               lower_, page_.Decode(candidate), key,
-                                                               key_, rules_.search_mode, page_);
+    const KeyTest test = TestKey(key);
+    if (test == KeyTest::TurnedAway) return std::nullopt;
+    if (test == KeyTest::ScoresNothing && rules_.score_threshold > 0) return std::nullopt;
+    // Counting bits is cheaper than a score, and for a long word any distance is.
+    const bool distance_first = plain_distance_ || word_.size() > kBits;
+    if (distance_first && !IsNear(candidate)) return std::nullopt;
+    const std::int32_t score =
+        test == KeyTest::ScoresNothing ? 0 : PassingScore(candidate, mask, key);
     if (score < rules_.score_threshold) return std::nullopt;
-    if (!plain_distance_) {
-        const auto swaps = rules_.count_swaps ? Transposition::OneEdit : Transposition::NotCounted;
-        if (distance_.LevenshteinDistance(word_, page_.Decode(candidate), swaps) >
-            rules_.diversity) {
-            return std::nullopt;
-        }
-    }
+    if (!distance_first && !IsNear(candidate)) return std::nullopt;
     return score;
 }
 

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +24,7 @@ class WordMatcher {
     /// Whether a candidate of this length with these letters may pass: false only when its score or
     /// its distance cannot reach the limits.
     bool LettersMayPass(std::size_t length, std::uint64_t mask) const {
+        if (length < shortest_ || length > longest_) return false;
         const LetterLimits& limits = limits_[length < limits_.size() ? length : limits_.size() - 1];
         const int missing = __builtin_popcountll(mask_ & ~mask);
         const int extra = __builtin_popcountll(mask & ~mask_);
@@ -36,6 +38,8 @@ class WordMatcher {
                                       std::int32_t key);
 
     std::int32_t Key() const { return key_; }
+    /// Pairs of letters that the measures had to look at so far, by their own bounds.
+    std::uint64_t Work() const { return work_; }
     const std::wstring& LowerWord() const { return lower_; }
 
   private:
@@ -52,8 +56,14 @@ class WordMatcher {
     static constexpr std::int8_t kAny = 64;
     static constexpr LetterLimits kNoLimits = {kAny, kAny, kAny, kAny, 0};
 
+    /// What a candidate's key means for it.
+    enum class KeyTest { TurnedAway, ScoresNothing, Passes };
+
     LetterLimits LimitsForLength(std::int32_t length) const;
-    bool KeyPasses(std::int32_t key) const;
+    void LimitLengths();
+    KeyTest TestKey(std::int32_t key) const;
+    bool IsNear(std::string_view candidate);
+    std::int32_t PassingScore(std::string_view candidate, std::uint64_t mask, std::int32_t key);
     std::int32_t PlainDistance(std::string_view candidate) const;
     std::int32_t LongestCommonSubsequence(std::string_view candidate) const;
     double PlainWildcardRatio(std::string_view candidate) const;
@@ -74,9 +84,13 @@ class WordMatcher {
     /// Bit i of entry b: character i of the word, as typed or in lower case, is byte b.
     std::array<std::uint64_t, 256> typed_places_{};
     std::array<std::uint64_t, 256> lower_places_{};
+    /// Lengths that a candidate may have, whatever its letters.
+    std::size_t shortest_ = 0;
+    std::size_t longest_ = std::numeric_limits<std::size_t>::max();
     /// By candidate length; the last entry serves all longer ones.
     std::vector<LetterLimits> limits_;
     cLS distance_;
+    std::uint64_t work_ = 0;
 };
 
 }  // namespace wordhawk

@@ -69,6 +69,17 @@ TEST(LevenshteinDistance, ThreeRowsEqualTheWholeMatrix) {
     }
 }
 
+TEST(LevenshteinDistance, IsWithinALimitExactlyWhenItIsAtMostThat) {
+    Random random(4);
+    cLS measure;
+    for (int round = 0; round < 20'000; ++round) {
+        const std::wstring a = random.Word(L"abC", 0, 12), b = random.Word(L"abC", 0, 12);
+        const auto limit = static_cast<std::int32_t>(random.Below(8)) - 1;
+        ASSERT_EQ(measure.IsWithin(a, b, limit), DistanceByMatrix(a, b, false) <= limit)
+            << ToUtf8(a) << " " << ToUtf8(b) << " " << limit;
+    }
+}
+
 TEST(SimilarityPercent, ScoresKnownPairs) {
     const AnsiCodePage& page = AnsiCodePage::Get(1252);
     const struct {
@@ -112,6 +123,35 @@ TEST(WildcardRatio, IsNegativeWithoutAMatchOfAnotherLength) {
     EXPECT_DOUBLE_EQ(modSimPercent::WildcardRatio(L"abc", L"xyz", 3, 3), 0.0);
     EXPECT_DOUBLE_EQ(modSimPercent::WildcardRatio(L"abc", L"abx", 3, 3), 1.0);
     EXPECT_DOUBLE_EQ(modSimPercent::WildcardRatio(L"abc", L"abcd", 3, 4), 2.0 / 3);
+}
+
+/// Copy by copy, as its definition reads.
+bool MatchesSomeCopy(const std::wstring& word, const std::wstring& candidate) {
+    for (std::size_t i = 0; i < word.size(); ++i) {
+        std::wstring pattern = word;
+        pattern[i] = L'*';
+        if (modSimPercent::LikePattern(candidate, pattern)) return true;
+    }
+    return false;
+}
+
+TEST(WildcardRatio, EqualsItsDefinitionWhateverTheWordHolds) {
+    Random random(6);
+    const std::vector<std::wstring> pieces = {L"a", L"b", L"c", L"a", L"b",  L"ab",
+                                              L"[", L"]", L"[", L"]", L"-",  L"!",
+                                              L"*", L"?", L"#", L"1", L"[!", L"[a-c]"};
+    int matched = 0;
+    for (int round = 0; round < 150'000; ++round) {
+        const std::wstring word = random.Mix(pieces, 1 + random.Below(9));
+        std::wstring candidate = random.Word(L"abcab*]-1[!", 0, 6);
+        if (random.OneIn(500)) candidate += std::wstring(70, L'a');
+        const auto length = static_cast<std::int32_t>(word.size());
+        const bool matches = modSimPercent::WildcardRatio(word, candidate, length, length) == 1.0;
+        matched += matches;
+        ASSERT_EQ(matches, MatchesSomeCopy(word, candidate))
+            << ToUtf8(word) << " " << ToUtf8(candidate);
+    }
+    EXPECT_GT(matched, 10'000);
 }
 
 TEST(LikePattern, MatchesAsThePatternOperatorDoes) {
@@ -161,9 +201,11 @@ TEST(CommonCharCount, EqualsItsDefinition) {
     Random random(5);
     for (int round = 0; round < 20'000; ++round) {
         std::string a, b;
-        for (std::size_t i = random.Below(10); i > 0; --i)
+        const std::size_t longest =
+            round % 200 == 0 ? 120 : 10;  // past what is searched start by start
+        for (std::size_t i = random.Below(longest); i > 0; --i)
             a.push_back(static_cast<char>('a' + random.Below(3)));
-        for (std::size_t i = random.Below(10); i > 0; --i)
+        for (std::size_t i = random.Below(longest); i > 0; --i)
             b.push_back(static_cast<char>('a' + random.Below(3)));
         const int n = static_cast<int>(a.size()), m = static_cast<int>(b.size());
         ASSERT_EQ(modSimPercent::CommonCharCount(a, b, 1, n, 1, m), CountBlocks(a, b, 1, n, 1, m))

@@ -72,7 +72,7 @@ Suggestions SearchLineByLine(Dictionaries& data, const std::wstring& word,
                 modSimPercent::SimilarityPercent(w, c, key, word_key, rules.search_mode, page);
             if (s < rules.score_threshold) continue;
             result.list.push_back({c, key, s});
-            if (s > 0 && (c == w || s > best_score)) {
+            if (c == w || s > best_score) {
                 best_score = s;
                 if (!fixed) {
                     best = c;
@@ -127,6 +127,7 @@ TEST(FindSuggestions, EqualsTheLineByLineSearchInAllModes) {
             rules.diversity = static_cast<int>(random.Below(6)) - (random.OneIn(20) ? 3 : 0);
             rules.score_threshold = random.OneIn(3) ? static_cast<int>(random.Below(102))
                                                     : 60 + static_cast<int>(random.Below(30));
+            if (random.OneIn(6)) rules.score_threshold = -static_cast<int>(random.Below(2));
             rules.main_only = random.OneIn(5);
             std::wstring word = random.OneIn(2)
                                     ? random.Pick(words)
@@ -200,6 +201,39 @@ TEST_F(SuggestionRulesTest, CustomDictionariesComeOneByOneWhileNothingIsFound) {
     data_.WriteMain({L"zebrb"});
     rules_.main_only = true;
     EXPECT_EQ(Words(L"zebre"), List{});
+}
+
+TEST_F(SuggestionRulesTest, WithoutAThresholdModeOneListsWhatScoresNothing) {
+    data_.WriteCustom(L"CUSTOM.DIC", "zzz,90200\r\n");
+    data_.settings.CustomDictionaries = {L"CUSTOM.DIC"};
+    rules_ = {.score_threshold = 0, .diversity = 9, .search_mode = 1};
+    const Suggestions found = FindSuggestions(data_.store, L"aei", rules_);
+    EXPECT_EQ(Show(found), "best -1; zzz 90200 0");
+}
+
+TEST_F(SuggestionRulesTest, WorkGrowsNoFasterThanTheWord) {
+    std::wstring near(300, L't');
+    data_.WriteMain({L"the", L"then", L"tt", L"ttht", near});
+    const std::wstring shapes[] = {L"t", L"th", L"[", L"t[h]", L"[t-h", L"*t", L"t?#", L"the\x416"};
+    for (const std::wstring& shape : shapes) {
+        for (const bool swaps : {false, true}) {
+            for (const int threshold : {0, 80}) {
+                rules_ = {.score_threshold = threshold, .count_swaps = swaps, .search_mode = 1};
+                std::uint64_t work[2] = {};
+                for (const std::size_t size : {1000u, 4000u}) {
+                    std::wstring word = L"th";
+                    while (word.size() < size) word += shape;
+                    word.resize(size);
+                    work[size == 4000] = FindSuggestions(data_.store, word, rules_).work;
+                }
+                EXPECT_LE(work[1], 5 * work[0]) << ToUtf8(shape) << swaps << threshold;
+                // By default no candidate comes as far as a measure.
+                if (threshold == 80 && !swaps) {
+                    EXPECT_EQ(work[1], 0u) << ToUtf8(shape);
+                }
+            }
+        }
+    }
 }
 
 TEST_F(SuggestionRulesTest, FirstOfEqualScoresIsBest) {
