@@ -1,5 +1,6 @@
 #include "dict/build.h"
 
+#include "dict/code_page_file.h"
 #include "dict/dictionary_file.h"
 #include "dict/lines.h"
 #include "dict/phonetic_key.h"
@@ -108,6 +109,8 @@ Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path
 
     if (!MakeFolder(output))
         return tl::unexpected(Error{L"the output folder cannot be made", output});
+    if (const Result<void> noted = WriteCodePageOfFolder(output, *options.page); !noted)
+        return tl::unexpected(noted.error());
     BuildReport report{0, 0, words.Skipped()};
     for (const auto& [name, bytes] : words.Files()) {
         const std::string sorted = dictionary_edit::SortedDistinct(bytes, *options.page);

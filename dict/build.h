@@ -26,8 +26,8 @@ struct BuildReport {
 };
 
 /// Writes main dictionary files straight into `output` from plain word lists, one word a line,
-/// UTF-8 or ANSI: words are trimmed, lower-cased and made unique. Errors: a list cannot be read, a
-/// file cannot be written.
+/// UTF-8 or ANSI: words are trimmed, lower-cased and made unique. The page is noted beside them.
+/// Errors: a list cannot be read, a file cannot be written.
 Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path& output,
                                     const BuildOptions& options);
 

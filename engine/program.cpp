@@ -2,9 +2,9 @@
 
 #include "app/prepare_folders.h"
 #include "app/program_folders.h"
+#include "dict/code_page_file.h"
 #include "engine/install.h"
 #include "engine/install_languages.h"
-#include "lang/modRcLangs.h"
 #include "platform/cIsInIDE.h"
 #include "platform/folders.h"
 #include "platform/locale_ids.h"
@@ -20,18 +20,18 @@ Program::Program(ProgramOptions options, UiServices& services)
     state.LocaleOverride = options_.locale;
     const int locale = options_.locale != 0 ? options_.locale : SystemDefaultLocale();
     // A locale that was asked for brings its own page, so that results do not hang on the machine.
-    state.CodePage = &AnsiCodePage::Get(options_.locale != 0 ? AnsiPageOfLocale(locale)
-                                                             : SystemAnsiPage(locale));
+    system_page_ = &AnsiCodePage::Get(options_.locale != 0 ? AnsiPageOfLocale(locale)
+                                                           : SystemAnsiPage(locale));
 
     PrepareFolders(state);
     InstallLanguages();
-    modRcLangs::InitLanguage(state, ui);
+    modRcLangs::InitLanguage(state, ui, LanguageFiles());
     OverrideLanguage();
     InstallDictionaries();
 
     flags.Load(state.SettingsFile);
     for (const auto& [index, value] : options_.flag_overrides) flags.Set(index, value);
-    state.Delimiters = BuildDelimiters(flags, *state.CodePage);
+    UseCodePageOfLanguage();
 
     state.ProgramMode = options_.program_mode;
     state.WindowMode = options_.program_mode;
@@ -46,9 +46,21 @@ void Program::ReloadSettings() {
 }
 
 std::wstring Program::ChangeLanguage() {
-    std::wstring in_force = modRcLangs::InitLanguage(state, ui);
+    std::wstring in_force = modRcLangs::InitLanguage(state, ui, LanguageFiles());
     InstallDictionaries();
+    UseCodePageOfLanguage();
     return in_force;
+}
+
+void Program::UseCodePageOfLanguage() {
+    const AnsiCodePage* const own = CodePageOfFolder(state.LanguageDictFolder);
+    state.CodePage = own != nullptr ? own : system_page_;
+    state.Delimiters = BuildDelimiters(flags, *state.CodePage);
+}
+
+modRcLangs::MissingFile Program::LanguageFiles() const {
+    return options_.install_shipped ? modRcLangs::MissingFile::Generate
+                                    : modRcLangs::MissingFile::Leave;
 }
 
 void Program::OverrideLanguage() {

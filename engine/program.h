@@ -4,6 +4,7 @@
 #include "app/modRegs.h"
 #include "app/program_state.h"
 #include "dict/dictionary_store.h"
+#include "lang/modRcLangs.h"
 #include "platform/ui_services.h"
 
 #include <optional>
@@ -21,7 +22,8 @@ struct ProgramOptions {
     int locale = 0;
     /// Started by the user (true) or for automation (false).
     bool program_mode = true;
-    /// Copy shipped dictionaries and language files into folders that have none.
+    /// Copy shipped dictionaries and language files into folders that have none, and generate a
+    /// missing language file.
     bool install_shipped = true;
     /// Folder of the shipped dictionaries; empty means "dictionaries" beside the program.
     Path shipped_dictionaries;
@@ -51,16 +53,20 @@ class Program {
 
     /// Reads the settings and the custom dictionary list again, after a dialog changed them.
     void ReloadSettings();
-    /// Chooses the language that setting "Language" now names, with its dictionaries; returns the
-    /// locale number in force.
+    /// Chooses the language that setting "Language" now names, with its dictionaries, their code
+    /// page and the delimiters in it; returns the locale number in force.
     std::wstring ChangeLanguage();
 
   private:
     void OverrideLanguage();
     void InstallLanguages();
     void InstallDictionaries();
+    void UseCodePageOfLanguage();
+    modRcLangs::MissingFile LanguageFiles() const;
 
     ProgramOptions options_;
+    /// For a language whose dictionaries do not tell their page.
+    const AnsiCodePage* system_page_;
 };
 
 }  // namespace wordhawk

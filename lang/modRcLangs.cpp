@@ -65,15 +65,16 @@ void RememberLanguage(const ProgramState& state, std::wstring_view chosen) {
 
 int WantedLocale(const ProgramState& state) { return LocaleFor(state, ChosenLanguage(state)); }
 
-std::wstring InitLanguage(ProgramState& state, UiServices& ui) {
+std::wstring InitLanguage(ProgramState& state, UiServices& ui, MissingFile missing) {
     const std::wstring chosen = ChosenLanguage(state);
     const int wanted = LocaleFor(state, chosen);
     state.LanguageId = std::to_wstring(wanted);
     state.LanguageFileBase = FileBase(state.LanguageId);
     SetLanguageFilePath(state);
-    if (!IsFile(state.LanguageFile)) GenerateLanguageFile(state, ui);
+    const bool leave = missing == MissingFile::Leave;
+    if (!leave && !IsFile(state.LanguageFile)) GenerateLanguageFile(state, ui);
 
-    if (IsFile(state.LanguageFile)) {
+    if (leave || IsFile(state.LanguageFile)) {
         MakeFolder(state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId));
     } else {
         // Looked for in the folder of the wished locale, where a translator may have put it.

@@ -12,10 +12,15 @@ namespace wordhawk::modRcLangs {
 /// English.
 int WantedLocale(const ProgramState& state);
 
-/// Chooses the interface language from setting "Language", else from `state.LanguageId`; generates
-/// a missing language file from the built-in texts; falls back to 1033. Sets the language members
+/// Whether a language file that is not there is generated from the built-in texts, or left missing:
+/// the language then stays the chosen one, with the built-in texts.
+enum class MissingFile { Generate, Leave };
+
+/// Chooses the interface language from setting "Language", else from `state.LanguageId`; falls back
+/// to 1033 when the language's file is missing and cannot be generated. Sets the language members
 /// of `state`, stores the choice and returns the locale number in force.
-std::wstring InitLanguage(ProgramState& state, UiServices& ui);
+std::wstring InitLanguage(ProgramState& state, UiServices& ui,
+                          MissingFile missing = MissingFile::Generate);
 
 /// Recomputes `state.LanguageFile` from data folder, LanguageId and LanguageFileBase.
 void SetLanguageFilePath(ProgramState& state);

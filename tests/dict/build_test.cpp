@@ -33,6 +33,7 @@ TEST(BuildDictionary, WritesSortedFilesFromListsOfBothEncodings) {
     EXPECT_EQ(ReadBytes(out / PathFromText(L"\u00E9t_.dic")),
               "\xE9tat,20130\r\n\xE9t\xE9,20130\r\n");
     EXPECT_EQ(ReadBytes(out / "aa_.dic"), "a,65000\r\n");
+    EXPECT_EQ(ReadBytes(out / "codepage.txt"), "1252\r\n");
     EXPECT_EQ(ReadBytes(out / "_noncase_.dic"), "3d,51300\r\n\x80,12800\r\n");
 }
 

@@ -1,6 +1,9 @@
 #include "engine/program.h"
 
+#include "dict/build.h"
+#include "dict/custom_words.h"
 #include "engine/check/check_pass.h"
+#include "platform/modSect.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/temp_dir.h"
 
@@ -53,6 +56,52 @@ TEST_F(ProgramTest, ShippedDictionariesAreCopiedOnceAndLeftAlone) {
     EXPECT_EQ(test::ReadBytes(installed), "mine,77500\r\n");
 }
 
+TEST_F(ProgramTest, EachPacksBytesAreReadInItsOwnCodePage) {
+    const Path shipped = folder_ / L"shipped";
+    const auto build = [&](std::string_view list, const char* locale, int page) {
+        const Path words = folder_ / L"words.txt";
+        test::WriteBytes(words, list);
+        BuildOptions options;
+        options.page = &AnsiCodePage::Get(page);
+        ASSERT_TRUE(BuildDictionary(std::span(&words, 1), shipped / locale, options));
+    };
+    build("pi\xC4\x99kny\n", "1045", 1250);
+    build("na\xC3\xAFve\n", "2057", 1252);
+    const std::wstring text = L"na\xEFve pi\x119kny";
+    // On a system whose page is 1252, first by an override and then as stored.
+    ProgramOptions options = Options();
+    options.setting_overrides = {{L"Language", L"1045"}};
+    const Program polish(options, ui_);
+    EXPECT_EQ(polish.state.CodePage->Number(), 1250);
+
+    Program program(Options(), ui_);
+    const auto unknown = [&] {
+        Progress none;
+        return CheckText(text, program.dictionaries,
+                         SplitRules::From(program.state, program.settings), none)
+            .words;
+    };
+    EXPECT_EQ(unknown(), std::vector<std::wstring>{L"pi\x119kny"});
+    MakeFolder(program.state.DataFolder / "Resources" / "1045");
+    modSect::WriteSetting(L"Settings", L"Language", L"1045", program.state.SettingsFile);
+    EXPECT_EQ(program.ChangeLanguage(), L"1045");
+    EXPECT_EQ(unknown(), std::vector<std::wstring>{L"na\xEFve"});
+    // What cuts words is told by code: 0xB9 is a sign in one page and a letter in the other.
+    EXPECT_NE(program.state.Delimiters.find(L'\x105'), std::wstring::npos);
+    Path file;
+    ASSERT_TRUE(AddWordToDictionary(program.dictionaries, L"\x142\x119k", AddTarget::Main, file));
+    EXPECT_EQ(test::ReadBytes(program.dictionaries.MainPathFor(L"\x142\x119k")),
+              EntryLine(L"\x142\x119k", AnsiCodePage::Get(1250)));
+}
+
+TEST_F(ProgramTest, APackWithoutItsPageIsInTheSystems) {
+    for (const char* told : {"", "437\r\n", "polish\r\n"}) {
+        test::WriteBytes(folder_ / L"new" / "Data" / "Dictionarys" / "2057" / "codepage.txt", told);
+        const Program program(Options(), ui_);
+        EXPECT_EQ(program.state.CodePage->Number(), 1252) << told;
+    }
+}
+
 TEST_F(ProgramTest, NoInstallLeavesTheFolderEmpty) {
     test::WriteBytes(folder_ / L"shipped" / "2057" / "co_.dic", "colour,67460\r\n");
     ProgramOptions options = Options();
@@ -60,6 +109,8 @@ TEST_F(ProgramTest, NoInstallLeavesTheFolderEmpty) {
     Program program(options, ui_);
     EXPECT_TRUE(std::filesystem::is_empty(program.state.DataFolder / "Dictionarys" / "2057"));
     EXPECT_FALSE(program.dictionaries.IsWordInDictionaries(L"colour", Scope::MainOnly));
+    EXPECT_TRUE(std::filesystem::is_empty(program.state.DataFolder / "Resources" / "2057"));
+    EXPECT_EQ(program.state.LanguageId, L"2057");
 }
 
 TEST_F(ProgramTest, OverridesHoldForOneRunOnly) {
