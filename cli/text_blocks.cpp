@@ -1,7 +1,5 @@
 #include "cli/text_blocks.h"
 
-#include "engine/document/rtf_text.h"
-
 #include <algorithm>
 
 namespace wordhawk {
@@ -43,7 +41,10 @@ Result<void> TextBlocks::ReadMore(std::size_t size) {
 Result<void> TextBlocks::Start() {
     started_ = true;
     if (auto read = ReadMore(kReadBytes); !read) return read;
-    if (kind_ == DocumentKind::RichText || LooksLikeRtf(bytes_)) return ReadRichText();
+    if (kind_ == DocumentKind::RichText || LooksLikeRtf(bytes_)) {
+        rich_text_ = std::make_unique<RtfTextReader>();
+        return {};
+    }
     if (const auto marked = MarkedEncoding(bytes_)) {
         encoding_ = *marked;
         bytes_at_ = EncodingMark(encoding_).size();
@@ -91,14 +92,13 @@ Result<void> TextBlocks::DecideFromPipe() {
     return {};
 }
 
-Result<void> TextBlocks::ReadRichText() {
-    while (!source_.AtEnd()) {
-        if (auto read = source_.Read(std::max(kReadBytes, bytes_.size()), bytes_); !read)
-            return read;
+Result<void> TextBlocks::AppendRichText() {
+    if (bytes_at_ == bytes_.size()) {
+        if (auto read = ReadMore(kReadBytes); !read) return read;
     }
-    text_ = RtfToText(bytes_);
-    bytes_ = {};
-    decided_ = true;
+    rich_text_->Feed(std::string_view(bytes_).substr(bytes_at_), text_);
+    bytes_at_ = bytes_.size();
+    if (source_.AtEnd()) rich_text_->Finish(text_);
     return {};
 }
 
@@ -117,40 +117,45 @@ std::size_t TextBlocks::CompleteBytes() const {
     return end;
 }
 
+Result<void> TextBlocks::AppendPlainText() {
+    if (bytes_.size() - bytes_at_ < kDecodeBytes && !source_.AtEnd()) {
+        if (auto read = ReadMore(kReadBytes); !read) return read;
+    }
+    if (!decided_) {
+        if (auto decision = DecideFromPipe(); !decision) return decision;
+    }
+    const std::size_t end = CompleteBytes();
+    AppendDecoded(std::string_view(bytes_).substr(bytes_at_, end - bytes_at_), encoding_, page_,
+                  text_);
+    bytes_at_ = end;
+    return {};
+}
+
+bool TextBlocks::AtEnd() const {
+    if (rich_text_ && rich_text_->AtEnd()) return true;
+    return bytes_at_ == bytes_.size() && source_.AtEnd();
+}
+
 Result<std::wstring_view> TextBlocks::Next() {
     if (!started_) {
         if (auto start = Start(); !start) return tl::unexpected(start.error());
     }
     text_.erase(0, text_at_);
     text_at_ = 0;
-    while (true) {
-        if (bytes_.size() - bytes_at_ < kDecodeBytes && !source_.AtEnd()) {
-            if (auto read = ReadMore(kReadBytes); !read) return tl::unexpected(read.error());
-        }
-        if (!decided_) {
-            if (auto decision = DecideFromPipe(); !decision)
-                return tl::unexpected(decision.error());
-        }
+    while (!AtEnd()) {
         const std::size_t from = text_.size();
-        const std::size_t end = CompleteBytes();
-        AppendDecoded(std::string_view(bytes_).substr(bytes_at_, end - bytes_at_), encoding_, page_,
-                      text_);
-        bytes_at_ = end;
-        if (bytes_at_ == bytes_.size() && source_.AtEnd()) {
-            text_at_ = text_.size();
-            break;
-        }
+        const auto appended = rich_text_ ? AppendRichText() : AppendPlainText();
+        if (!appended) return tl::unexpected(appended.error());
+        if (AtEnd()) break;
         const std::size_t blank = std::wstring_view(text_).substr(from).find_last_of(L" \n\r");
         if (blank != std::wstring_view::npos) {
             text_at_ = from + blank + 1;
-            break;
+            return std::wstring_view(text_).substr(0, text_at_);
         }
-        if (text_.size() >= kLongestRun) {
-            text_at_ = text_.size();
-            break;
-        }
+        if (text_.size() >= kLongestRun) break;
     }
-    return std::wstring_view(text_).substr(0, text_at_);
+    text_at_ = text_.size();
+    return std::wstring_view(text_);
 }
 
 int TextBlocks::PercentRead() const {

@@ -2,8 +2,10 @@
 
 #include "cli/byte_source.h"
 #include "engine/document/document_text.h"
+#include "engine/document/rtf_text.h"
 #include "platform/text.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -13,7 +15,7 @@ enum class DocumentKind { ByContent, RichText };
 
 /// A document's text in blocks that end behind a space or a line break, so that no word and no
 /// address is cut; only a run without either of more than four million characters is. Memory does
-/// not grow with the document, except for rich text, which is read whole.
+/// not grow with the document.
 ///
 /// The encoding is found as DetectEncoding finds it. A pipe without a mark is looked ahead into
 /// from its first character beyond ASCII for up to 16 MB; that part decides.
@@ -33,13 +35,17 @@ class TextBlocks {
     Result<void> ReadMore(std::size_t size);
     Result<void> DecideFromFile();
     Result<void> DecideFromPipe();
-    Result<void> ReadRichText();
+    Result<void> AppendRichText();
+    Result<void> AppendPlainText();
+    /// Whether all of the document is in text_.
+    bool AtEnd() const;
     std::size_t CompleteBytes() const;
 
     ByteSource source_;
     DocumentKind kind_;
     const AnsiCodePage& page_;
     TextEncoding encoding_ = TextEncoding::Utf8;
+    std::unique_ptr<RtfTextReader> rich_text_;  // none: plain text
     bool started_ = false;
     bool decided_ = false;
     std::string bytes_;  // read, not yet decoded from bytes_at_ on

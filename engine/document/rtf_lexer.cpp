@@ -31,9 +31,15 @@ RtfToken RtfLexer::Next() {
             case '}': token.kind = RtfToken::Kind::Close; return token;
             case '\r':
             case '\n': break;
-            case '\\':
-                if (Control(token)) return token;
+            case '\\': {
+                const bool is_token = Control(token);
+                if (input_ == Input::Piece && at_ == rtf_.size() && raw_left_ == 0) {
+                    at_ = start;
+                    return {};
+                }
+                if (is_token) return token;
                 break;
+            }
             default:
                 while (at_ < rtf_.size() && IsPlain(rtf_[at_])) ++at_;
                 token.kind = RtfToken::Kind::Text;
@@ -74,6 +80,8 @@ void RtfLexer::Word(RtfToken& token) {
     while (at_ < rtf_.size() && IsLetter(rtf_[at_]) && at_ - start < kLongestWord) ++at_;
     token.kind = RtfToken::Kind::Word;
     token.text = rtf_.substr(start, at_ - start);
+    // A piece that ends in "-" may go on with digits.
+    if (input_ == Input::Piece && at_ + 1 == rtf_.size() && rtf_[at_] == '-') at_ = rtf_.size();
     const bool negative = at_ + 1 < rtf_.size() && rtf_[at_] == '-' && IsDigit(rtf_[at_ + 1]);
     if (negative) ++at_;
     std::int64_t number = 0;
@@ -85,8 +93,12 @@ void RtfLexer::Word(RtfToken& token) {
     }
     token.number = static_cast<int>(negative ? -number : number);
     if (at_ < rtf_.size() && rtf_[at_] == ' ') ++at_;
-    if (token.text == "bin" && token.number > 0) {
-        at_ += std::min(rtf_.size() - at_, static_cast<std::size_t>(token.number));
+    const bool may_go_on = input_ == Input::Piece && at_ == rtf_.size();
+    if (token.text == "bin" && token.number > 0 && !may_go_on) {
+        const auto raw = static_cast<std::size_t>(token.number);
+        const std::size_t here = std::min(rtf_.size() - at_, raw);
+        at_ += here;
+        raw_left_ = raw - here;
     }
 }
 

@@ -24,10 +24,20 @@ struct RtfToken {
 /// passed over too, and so are the raw bytes that \bin announces, whose token is the word alone.
 class RtfLexer {
   public:
+    /// Whether `rtf` is all that there is, or more follows: a token that may go on is then not
+    /// given.
+    enum class Input { Whole, Piece };
+
     /// `rtf` must outlive the lexer and its tokens.
-    explicit RtfLexer(std::string_view rtf) : rtf_(rtf) {}
+    explicit RtfLexer(std::string_view rtf, Input input = Input::Whole)
+        : rtf_(rtf), input_(input) {}
 
     RtfToken Next();
+
+    /// After the end of a piece: how much of it was used. The next piece begins with the rest,
+    std::size_t Used() const { return at_; }
+    /// behind as many bytes more of raw data that are to be passed over.
+    std::size_t RawBytesLeft() const { return raw_left_; }
 
   private:
     bool Control(RtfToken& token);
@@ -35,7 +45,9 @@ class RtfLexer {
     void Word(RtfToken& token);
 
     std::string_view rtf_;
+    Input input_;
     std::size_t at_ = 0;
+    std::size_t raw_left_ = 0;
 };
 
 }  // namespace wordhawk

@@ -14,14 +14,20 @@ namespace {
 constexpr std::size_t kDeepestGroup = 1000;
 constexpr std::size_t kMostFonts = 10000;
 
-class Reader {
-  public:
-    explicit Reader(std::string_view rtf) : lexer_(rtf) {}
+}  // namespace
 
-    std::wstring Read() {
-        while (!finished_) Take(lexer_.Next());
-        return std::move(text_);
+class RtfTextReader::Reader {
+  public:
+    /// Appends the text of all tokens up to the lexer's end, or the document's.
+    void Read(RtfLexer& lexer, std::wstring& text) {
+        text_ = &text;
+        while (!finished_) {
+            const RtfToken token = lexer.Next();
+            if (token.kind == RtfToken::Kind::End) break;
+            Take(token);
+        }
     }
+    bool AtEnd() const { return finished_; }
 
   private:
     /// What a group inherits from the one around it and forgets at its end.
@@ -44,7 +50,7 @@ class Reader {
             case RtfToken::Kind::Symbol: Symbol(token.byte); break;
             case RtfToken::Kind::Hex: Bytes({&token.byte, 1}); break;
             case RtfToken::Kind::Text: Bytes(token.text); break;
-            case RtfToken::Kind::End: finished_ = true; break;
+            case RtfToken::Kind::End: break;
         }
     }
 
@@ -197,17 +203,16 @@ class Reader {
         if (group_.skip || group_.hidden || group_.deleted) return;
         for (const char c : bytes) {
             const auto byte = static_cast<unsigned char>(c);
-            text_.push_back(byte < 0x80 ? static_cast<wchar_t>(byte)
-                                        : group_.page->ToUnicode(byte));
+            text_->push_back(byte < 0x80 ? static_cast<wchar_t>(byte)
+                                         : group_.page->ToUnicode(byte));
         }
     }
 
     void Append(wchar_t character) {
-        if (!group_.skip && !group_.hidden && !group_.deleted) text_.push_back(character);
+        if (!group_.skip && !group_.hidden && !group_.deleted) text_->push_back(character);
     }
 
-    RtfLexer lexer_;
-    std::wstring text_;
+    std::wstring* text_ = nullptr;
     Group group_;
     std::vector<Group> outer_;
     std::size_t too_deep_ = 0;
@@ -220,10 +225,42 @@ class Reader {
     std::unordered_map<int, int> charset_of_font_;
 };
 
-}  // namespace
-
 bool LooksLikeRtf(std::string_view bytes) { return bytes.starts_with("{\\rtf"); }
 
-std::wstring RtfToText(std::string_view rtf) { return Reader(rtf).Read(); }
+std::wstring RtfToText(std::string_view rtf) {
+    std::wstring text;
+    RtfTextReader reader;
+    reader.Feed(rtf, text);
+    reader.Finish(text);
+    return text;
+}
+
+RtfTextReader::RtfTextReader() : reader_(std::make_unique<Reader>()) {}
+RtfTextReader::~RtfTextReader() = default;
+
+void RtfTextReader::Feed(std::string_view piece, std::wstring& text) {
+    const std::size_t raw = std::min(raw_left_, piece.size());
+    raw_left_ -= raw;
+    piece.remove_prefix(raw);
+    if (raw_left_ > 0) return;
+    if (!waiting_.empty()) {
+        waiting_.append(piece);
+        if (waiting_.size() < try_at_) return;
+        piece = waiting_;
+    }
+    RtfLexer lexer(piece, RtfLexer::Input::Piece);
+    reader_->Read(lexer, text);
+    raw_left_ = lexer.RawBytesLeft();
+    waiting_ = std::string(piece.substr(lexer.Used()));
+    try_at_ = 2 * waiting_.size();
+}
+
+void RtfTextReader::Finish(std::wstring& text) {
+    RtfLexer lexer(waiting_);
+    reader_->Read(lexer, text);
+    waiting_.clear();
+}
+
+bool RtfTextReader::AtEnd() const { return reader_->AtEnd(); }
 
 }  // namespace wordhawk

@@ -71,6 +71,25 @@ TEST(TextBlocks, AreTheWholeDocumentCutBehindBlanks) {
     }
 }
 
+TEST(TextBlocks, AreTheTextOfRichTextToo) {
+    Random random(9);
+    const test::TempDir folder;
+    std::string rtf = "{\\rtf1\\ansi ";
+    while (rtf.size() < 600'000)
+        rtf += random.Pick(
+            std::vector<std::string>{"word ", "\\par ", "{\\b x}", "\\u322?", "y", "\r\n"});
+    rtf += "\\bin400000 " + std::string(400'000, '}') + " end} behind";
+    test::WriteBytes(folder / L"text", rtf);
+    std::wstring joined;
+    for (const std::wstring& block : BlocksOf(folder / L"text")) {
+        EXPECT_LT(block.size(), 300'000u);
+        joined += block;
+    }
+    const std::wstring expected = RtfToText(rtf);
+    EXPECT_EQ(joined.size(), expected.size());
+    EXPECT_TRUE(joined == expected);
+}
+
 TEST(TextBlocks, AreCutAnywhereWhenThereIsNoBlank) {
     const test::TempDir folder;
     test::WriteBytes(folder / L"text", std::string(9'000'000, 'x'));

@@ -1,5 +1,7 @@
 #include "engine/document/rtf_text.h"
 
+#include "tests/support/random_text.h"
+
 #include <gtest/gtest.h>
 
 namespace wordhawk {
@@ -109,6 +111,29 @@ TEST(RtfText, ReadsWhatItCanOfBrokenInput) {
         {"{\\rtf1 nul\0x}"s, L"nul\0x"s, "NUL"},
         {"plain text", L"plain text", "no rich text at all"},
     });
+}
+
+TEST(RtfText, IsTheSameHoweverTheDocumentIsCut) {
+    test::Random random(8);
+    const std::vector<std::string> pieces = {
+        "{",       "}",        "\\b ",    "\\b0",          "word ",
+        "\\u322?", "\\u-4051", "\\'e9",   "\\bin5 {}\\{}", "\\bin300000 ",
+        "\r\n",    "\\\\",     "\\*\\x ", "\\pict ",       "\\uc2",
+        "\\par",   "\xE9",     "\\",      "{\\v x}",       "\\emdash"};
+    for (int round = 0; round < 3'000; ++round) {
+        std::string rtf = "{\\rtf1 ";
+        for (std::size_t i = random.Below(40); i > 0; --i) rtf += random.Pick(pieces);
+        if (random.OneIn(3)) rtf += "\\u" + std::string(random.Below(50), '0') + "65?";
+        std::wstring text;
+        RtfTextReader reader;
+        for (std::size_t at = 0; at < rtf.size();) {
+            const std::size_t size = 1 + random.Below(random.OneIn(2) ? 3 : 20);
+            reader.Feed(std::string_view(rtf).substr(at, size), text);
+            at += size;
+        }
+        reader.Finish(text);
+        ASSERT_EQ(text, RtfToText(rtf)) << rtf;
+    }
 }
 
 TEST(RtfText, BearsNestingWithoutEnd) {
