@@ -4,25 +4,26 @@
 #include "cli/console.h"
 #include "cli/output.h"
 #include "cli/progress_line.h"
+#include "cli/seen_words.h"
 #include "cli/session.h"
+#include "cli/side_by_side.h"
 #include "cli/text_blocks.h"
 #include "cli/text_position.h"
+#include "cli/visible_text.h"
 
-#include <atomic>
-#include <condition_variable>
+#include <algorithm>
 #include <cstdlib>
-#include <mutex>
+#include <memory>
+#include <new>
 #include <thread>
 #include <unordered_set>
 
 namespace wordhawk {
 namespace {
 
-/// What came of one file apart from its printed lines.
+/// What came of one file apart from what it printed.
 struct FileResult {
     bool found = false;
-    /// In format List: its unknown words in order.
-    std::vector<std::wstring> words;
     std::string error_line;
 };
 
@@ -41,56 +42,65 @@ class FileChecker {
           options_(options),
           report_(store_, SuggestionRules::From(settings_), options, colour) {}
 
+    /// Prints in format List what was not lately printed; repeats are for the caller to drop.
     FileResult Check(const std::string& file, Output& out, ProgressLine* progress) {
         FileResult result;
-        const bool from_input = file == "-";
-        const std::string name = from_input ? "<stdin>" : file;
-        auto source =
-            from_input ? ByteSource::StandardInput() : ByteSource::OpenFile(PathFromArgument(file));
-        if (!source) {
-            result.error_line = MessageLine(name, ToUtf8(source.error().what));
-            return result;
-        }
-        TextBlocks blocks(std::move(*source),
-                          IsRichTextName(file) ? DocumentKind::RichText : DocumentKind::ByContent,
-                          *state_.CodePage);
-        TextChecker checker(store_, rules_);
-        report_.BeginFile(name);
-        TextPosition position;
-        std::uint64_t base = 0;  // offset of the block
-        while (true) {
-            const auto block = blocks.Next();
-            if (!block) {
-                result.error_line = MessageLine(name, ToUtf8(block.error().what));
-                break;
-            }
-            if (block->empty()) break;
-            if (options_.format == CheckFormat::List) {
-                checker.Feed(*block, [](const UnknownWord&) {});
-            } else {
-                ReportBlock(checker, *block, base, position, out);
-            }
-            base += block->size();
-            if (progress != nullptr) progress->Show(name, blocks.PercentRead());
+        const std::string name = file == "-" ? "<stdin>" : file;
+        try {
+            const auto checked = CheckBlocks(file, name, out, progress, result);
+            if (!checked) result.error_line = MessageLine(name, ToUtf8(checked.error().what));
+        } catch (const std::bad_alloc& error) {
+            result.error_line = MessageLine(name, DescribeException(error));
         }
         // Words of a dictionary that cannot be read are not unknown ones.
         if (result.error_line.empty()) result.error_line = UnreadableLines(store_);
-        result.found = !checker.Words().empty();
-        if (options_.format == CheckFormat::List) result.words = checker.Words();
         return result;
     }
 
   private:
-    void ReportBlock(TextChecker& checker, std::wstring_view block, std::uint64_t base,
+    Result<void> CheckBlocks(const std::string& file, const std::string& name, Output& out,
+                             ProgressLine* progress, FileResult& result) {
+        auto source = file == "-" ? ByteSource::StandardInput()
+                                  : ByteSource::OpenFile(PathFromArgument(file));
+        if (!source) return tl::unexpected(source.error());
+        TextBlocks blocks(std::move(*source),
+                          IsRichTextName(file) ? DocumentKind::RichText : DocumentKind::ByContent,
+                          *state_.CodePage);
+        TextChecker checker(store_, rules_, Remember::Lately);
+        report_.BeginFile(name);
+        const std::string shown = VisibleText(name);
+        TextPosition position;
+        std::uint64_t base = 0;  // offset of the block
+        while (true) {
+            const auto block = blocks.Next();
+            if (!block) return tl::unexpected(block.error());
+            if (block->empty()) return {};
+            result.found |= ReportBlock(checker, *block, base, position, out);
+            base += block->size();
+            if (progress != nullptr) progress->Show(shown, blocks.PercentRead());
+        }
+    }
+
+    /// Whether the block holds an unknown word.
+    bool ReportBlock(TextChecker& checker, std::wstring_view block, std::uint64_t base,
                      TextPosition& position, Output& out) {
+        const bool places =
+            options_.format == CheckFormat::Lines || options_.format == CheckFormat::Json;
         std::size_t walked = 0;
+        bool found = false;
         checker.Feed(block, [&](const UnknownWord& word) {
+            found = true;
+            if (!places) {
+                report_.Add(out, word, 0, 0);
+                return;
+            }
             const auto at = static_cast<std::size_t>(word.offset - base);
             position.Advance(block.substr(walked, at - walked));
             walked = at;
             report_.Add(out, word, position.Line(), position.Column());
         });
-        position.Advance(block.substr(walked));
+        if (places) position.Advance(block.substr(walked));
+        return found;
     }
 
     ProgramState state_;
@@ -101,22 +111,33 @@ class FileChecker {
     CheckReport report_;
 };
 
-/// Puts the results together: messages, listed words once over all files, the exit code.
+/// Puts the results together: what is printed, messages, the exit code.
 class Summary {
   public:
-    explicit Summary(Output& out) : out_(out) {}
+    Summary(Output& out, CheckFormat format) : out_(out), format_(format) {}
 
-    void Add(FileResult result, bool only_file) {
+    /// Whole lines that a file printed; of listed words, each once over all files.
+    void Write(std::string_view lines) {
+        if (format_ == CheckFormat::Lines || format_ == CheckFormat::Json) {
+            out_ << lines;
+            return;
+        }
+        while (!lines.empty()) {
+            const std::string_view line = lines.substr(0, lines.find('\n'));
+            lines.remove_prefix(line.size() + 1);
+            if (format_ == CheckFormat::List && !listed_.Add(line)) continue;
+            // As text, so that a terminal shows what it could not bear.
+            out_ << FromUtf8(line) << '\n';
+        }
+    }
+
+    void Add(const FileResult& result) {
         found_ = found_ || result.found;
-        for (const std::wstring& word : result.words) {
-            if (only_file || listed_.insert(word).second) out_ << word << '\n';
-        }
-        if (!result.error_line.empty()) {
-            failed_ = true;
-            out_.Flush();
-            // Each file meets a dictionary that cannot be read; once is enough.
-            if (told_.insert(result.error_line).second) ShowMessageLine(result.error_line);
-        }
+        if (result.error_line.empty()) return;
+        failed_ = true;
+        out_.Flush();
+        // Each file meets a dictionary that cannot be read; once is enough.
+        if (told_.insert(result.error_line).second) ShowMessageLine(result.error_line);
     }
 
     int ExitCode(const CheckOptions& options) const {
@@ -127,7 +148,8 @@ class Summary {
 
   private:
     Output& out_;
-    std::unordered_set<std::wstring> listed_;
+    CheckFormat format_;
+    SeenWords listed_;
     std::unordered_set<std::string> told_;
     bool found_ = false;
     bool failed_ = false;
@@ -135,45 +157,35 @@ class Summary {
 
 /// Checks every file on several threads; what they print comes out in the files' order.
 void CheckSideBySide(const Program& program, const CheckOptions& options, Colour colour,
-                     Output& out, Summary& summary) {
-    struct Slot {
-        Output text{nullptr};
-        FileResult result;
-        bool done = false;
-    };
-    std::vector<Slot> slots(options.files.size());
-    std::atomic<std::size_t> next{0};
-    std::mutex mutex;
-    std::condition_variable changed;
-
-    const auto work = [&] {
-        FileChecker checker(program, options, colour);
-        for (std::size_t i = next++; i < slots.size(); i = next++) {
-            FileResult result = checker.Check(options.files[i], slots[i].text, nullptr);
-            const std::lock_guard lock(mutex);
-            slots[i].result = std::move(result);
-            slots[i].done = true;
-            changed.notify_one();
-        }
-    };
-    std::vector<std::jthread> threads;
-    const auto count = std::min(static_cast<std::size_t>(options.jobs), slots.size());
-    for (std::size_t i = 0; i < count; ++i) threads.emplace_back(work);
-
+                     Summary& summary) {
+    const std::size_t count = options.files.size();
+    std::vector<FileResult> results(count);
     ProgressLine progress;
-    for (std::size_t i = 0; i < slots.size(); ++i) {
-        {
-            std::unique_lock lock(mutex);
-            while (!slots[i].done) {
-                changed.wait_for(lock, std::chrono::milliseconds(250));
-                progress.Show("checking " + std::to_string(slots.size()) + " files",
-                              static_cast<int>(i * 100 / slots.size()));
-            }
-        }
+    SideBySide plan;
+    plan.jobs = count;
+    // More threads than the machine can run would only hold more dictionaries in memory.
+    const std::size_t useful = std::max(2 * std::thread::hardware_concurrency(), 4u);
+    plan.threads = std::min({static_cast<std::size_t>(options.jobs), count, useful});
+    plan.make_worker = [&]() -> SideBySide::Job {
+        const auto checker = std::make_shared<FileChecker>(program, options, colour);
+        return [&, checker](std::size_t i, Output& text) {
+            results[i] = checker->Check(options.files[i], text, nullptr);
+        };
+    };
+    plan.write = [&](std::string_view lines) {
         progress.Clear();
-        out << slots[i].text.Take();
-        summary.Add(std::move(slots[i].result), slots.size() == 1);
-    }
+        summary.Write(lines);
+    };
+    plan.finished = [&](std::size_t i, const std::string& failure) {
+        progress.Clear();
+        if (!failure.empty()) results[i].error_line = MessageLine(options.files[i], failure);
+        summary.Add(results[i]);
+    };
+    plan.waiting = [&](std::size_t i) {
+        progress.Show("checking " + std::to_string(count) + " files",
+                      static_cast<int>(i * 100 / count));
+    };
+    plan.Run();
 }
 
 Colour ChooseColour() {
@@ -194,19 +206,22 @@ int RunCheck(const GlobalOptions& global, const CheckOptions& given) {
         return kExitFailed;
     }
     Output out(stdout);
-    Summary summary(out);
+    Summary summary(out, options.format);
     const Colour colour = ChooseColour();
     if (options.jobs > 1 && options.files.size() > 1) {
-        CheckSideBySide(program, options, colour, out, summary);
+        CheckSideBySide(program, options, colour, summary);
     } else {
         FileChecker checker(program, options, colour);
         ProgressLine progress;
         // Lines that scroll by on the screen tell enough.
-        const bool quiet = options.format != CheckFormat::List && IsTerminal(Stream::Output);
+        const bool quiet = IsTerminal(Stream::Output);
+        Output listed([&](std::string_view lines) { summary.Write(lines); });
+        Output& printed = options.format == CheckFormat::List ? listed : out;
         for (const std::string& file : options.files) {
-            FileResult result = checker.Check(file, out, quiet ? nullptr : &progress);
+            const FileResult result = checker.Check(file, printed, quiet ? nullptr : &progress);
             progress.Clear();
-            summary.Add(std::move(result), options.files.size() == 1);
+            listed.Flush();
+            summary.Add(result);
         }
     }
     out.Flush();

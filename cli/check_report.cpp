@@ -1,48 +1,63 @@
 #include "cli/check_report.h"
 
 #include "cli/json.h"
+#include "cli/visible_text.h"
+
+#include <utility>
 
 namespace wordhawk {
+namespace {
+
+// Suggestions are remembered until those of other words take more bytes than this.
+constexpr std::size_t kMostTailBytes = std::size_t{8} << 20;
+
+}  // namespace
 
 void CheckReport::BeginFile(std::string_view name) {
-    file_ = options_.format == CheckFormat::Json ? JsonString(name) : std::string(name);
-    tail_by_index_.clear();
+    file_ = options_.format == CheckFormat::Json ? JsonString(name) : VisibleText(name);
 }
 
 void CheckReport::Add(Output& out, const UnknownWord& word, std::uint64_t line,
                       std::uint64_t column) {
     switch (options_.format) {
-        case CheckFormat::List: break;
+        case CheckFormat::List:
+            if (word.is_new) out << std::string_view(ToUtf8(word.listed) + '\n');
+            break;
         case CheckFormat::Words: out << word.text << '\n'; break;
         case CheckFormat::Json:
             out << "{\"file\": " << file_ << ", \"line\": " << line << ", \"column\": " << column
                 << ", \"word\": " << JsonString(word.text) << ", \"suggestions\": " << TailOf(word)
                 << "}\n";
             break;
-        case CheckFormat::Lines:
+        case CheckFormat::Lines: {
+            const std::string text = VisibleText(ToUtf8(word.text));
             if (colour_ == Colour::On) {
                 out << "\x1b[35m" << file_ << "\x1b[0m:" << line << ':' << column << ": \x1b[1;31m"
-                    << word.text << "\x1b[0m";
+                    << text << "\x1b[0m";
             } else {
-                out << file_ << ':' << line << ':' << column << ": " << word.text;
+                out << file_ << ':' << line << ':' << column << ": " << text;
             }
             out << TailOf(word) << '\n';
             break;
+        }
     }
 }
 
 const std::string& CheckReport::TailOf(const UnknownWord& word) {
-    if (word.index >= tail_by_index_.size()) tail_by_index_.resize(word.index + 1, nullptr);
-    const std::string*& tail = tail_by_index_[word.index];
-    if (tail == nullptr) {
-        const auto [entry, is_new] = tails_.try_emplace(std::wstring(word.listed));
-        if (is_new) entry->second = MakeTail(word.listed);
-        tail = &entry->second;
+    const LetterCase letter_case = CaseOf(word.text);
+    tail_key_.assign(word.listed).push_back(static_cast<wchar_t>(letter_case));
+    const auto known = tails_.find(tail_key_);
+    if (known != tails_.end()) return known->second;
+    std::string tail = MakeTail(word.listed, letter_case);
+    tails_size_ += tail.size() + tail_key_.size() * sizeof(wchar_t) + sizeof(*tails_.begin());
+    if (tails_size_ > kMostTailBytes) {
+        tails_.clear();
+        tails_size_ = 0;
     }
-    return *tail;
+    return tails_.emplace(tail_key_, std::move(tail)).first->second;
 }
 
-std::string CheckReport::MakeTail(std::wstring_view listed) {
+std::string CheckReport::MakeTail(std::wstring_view listed, LetterCase letter_case) {
     Suggestions found;
     if (options_.suggestions) found = FindSuggestions(store_, listed, rules_);
     const auto most = static_cast<std::size_t>(options_.max_suggestions);
@@ -53,12 +68,13 @@ std::string CheckReport::MakeTail(std::wstring_view listed) {
     for (const Suggestion& suggestion : found.list) {
         const bool first = &suggestion == &found.list.front();
         const std::string score = std::to_string(suggestion.score);
+        const std::wstring word = InCase(suggestion.word, letter_case);
         if (json) {
             tail += first ? "" : ", ";
-            tail += "{\"word\": " + JsonString(suggestion.word) + ", \"score\": " + score + "}";
+            tail += "{\"word\": " + JsonString(word) + ", \"score\": " + score + "}";
         } else {
             tail += first ? " -> " : ", ";
-            tail += ToUtf8(suggestion.word) + " (" + score + "%)";
+            tail += VisibleText(ToUtf8(word)) + " (" + score + "%)";
         }
     }
     return json ? tail + "]" : tail;

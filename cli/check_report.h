@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/letter_case.h"
 #include "cli/options.h"
 #include "cli/output.h"
 #include "dict/dictionary_store.h"
@@ -7,18 +8,16 @@
 #include "engine/suggest/suggestions.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 namespace wordhawk {
 
 enum class Colour { Off, On };
 
 /// Prints occurrences of unknown words in the chosen format. Suggestions are found once for each
-/// distinct word, whatever the number of files.
+/// distinct word, as long as not too many others came between.
 class CheckReport {
   public:
     CheckReport(DictionaryStore& store, const SuggestionRules& rules, const CheckOptions& options,
@@ -28,21 +27,22 @@ class CheckReport {
     /// What follows is about this file, named as the user named it (UTF-8).
     void BeginFile(std::string_view name);
 
-    /// One occurrence of formats other than List.
     void Add(Output& out, const UnknownWord& word, std::uint64_t line, std::uint64_t column);
 
   private:
     /// The rest of the line behind the word itself: its suggestions.
     const std::string& TailOf(const UnknownWord& word);
-    std::string MakeTail(std::wstring_view listed);
+    std::string MakeTail(std::wstring_view listed, LetterCase letter_case);
 
     DictionaryStore& store_;
     SuggestionRules rules_;
     const CheckOptions& options_;
     Colour colour_;
     std::string file_;  // as it is printed
+    /// By the word and a last character for its case.
     std::unordered_map<std::wstring, std::string> tails_;
-    std::vector<const std::string*> tail_by_index_;  // of this file's words
+    std::size_t tails_size_ = 0;
+    std::wstring tail_key_;
 };
 
 }  // namespace wordhawk

@@ -4,6 +4,7 @@
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/session.h"
+#include "cli/side_by_side.h"
 
 #include <cstdio>
 
@@ -56,7 +57,7 @@ int main(int argc, char** argv) {
     try {
         return wordhawk::Main(argc, argv);
     } catch (const std::exception& error) {  // out of memory, above all
-        wordhawk::ShowMessageLine(wordhawk::MessageLine(error.what()));
+        wordhawk::ShowMessageLine(wordhawk::MessageLine(wordhawk::DescribeException(error)));
         return wordhawk::kExitFailed;
     }
 }

@@ -1,5 +1,7 @@
 #include "cli/output.h"
 
+#include "cli/console.h"
+#include "cli/visible_text.h"
 #include "platform/files.h"
 #include "platform/text.h"
 
@@ -8,7 +10,11 @@
 
 namespace wordhawk {
 
+Output::Output(std::FILE* stream)
+    : stream_(stream), shows_controls_(stream == stdout && IsTerminal(Stream::Output)) {}
+
 Output& Output::operator<<(std::wstring_view text) {
+    if (shows_controls_) return *this << std::string_view(VisibleText(ToUtf8(text)));
     for (const wchar_t c : text) {
         if (static_cast<std::uint32_t>(c) >= 0x80) return *this << std::string_view(ToUtf8(text));
     }
@@ -17,6 +23,11 @@ Output& Output::operator<<(std::wstring_view text) {
 }
 
 void Output::Flush() {
+    if (take_) {
+        if (!buffer_.empty()) take_(buffer_);
+        buffer_.clear();
+        return;
+    }
     if (stream_ == nullptr) return;
     const bool written = (buffer_.empty() || std::fwrite(buffer_.data(), 1, buffer_.size(),
                                                          stream_) == buffer_.size()) &&
@@ -29,11 +40,11 @@ void Output::Flush() {
 }
 
 std::string MessageLine(std::string_view text) {
-    std::string line = "wordhawk-cli: " + std::string(text);
+    std::string line(text);
     for (char& c : line) {
-        if (static_cast<unsigned char>(c) < 0x20) c = ' ';  // one message, one line
+        if (c == '\n' || c == '\r' || c == '\t') c = ' ';  // one message, one line
     }
-    return line + '\n';
+    return "wordhawk-cli: " + VisibleText(line) + '\n';
 }
 
 std::string MessageLine(std::string_view subject, std::string_view text) {

@@ -4,6 +4,7 @@
 
 #include <concepts>
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -15,20 +16,27 @@ inline constexpr int kExitFine = 0;
 inline constexpr int kExitFound = 1;   ///< unknown words, or a word that was not there
 inline constexpr int kExitFailed = 2;  ///< usage, input, dictionary or output failure
 
-/// Text on its way to a stream, or collected when there is none.
+/// Text on its way to a stream, or to whoever takes it.
 class Output {
   public:
-    explicit Output(std::FILE* stream) : stream_(stream) {}
-    ~Output() { Flush(); }
+    /// On a terminal, texts are shown with their control characters visible (see VisibleText).
+    explicit Output(std::FILE* stream);
+    /// Gives the text away in pieces, each cut behind something that was written at once; what was
+    /// not flushed at the end is dropped.
+    explicit Output(std::function<void(std::string_view)> take) : take_(std::move(take)) {}
+    ~Output() {
+        if (stream_ != nullptr) Flush();
+    }
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 
-    Output& operator<<(std::string_view text) {
-        buffer_.append(text);
-        if (buffer_.size() >= kFlushAt && stream_ != nullptr) Flush();
+    Output& operator<<(std::string_view bytes) {
+        buffer_.append(bytes);
+        if (buffer_.size() >= kFlushAt) Flush();
         return *this;
     }
     Output& operator<<(char c) { return *this << std::string_view(&c, 1); }
+    /// Text as it came from outside: words, names.
     Output& operator<<(std::wstring_view text);
     template <std::integral Number>
     Output& operator<<(Number number) {
@@ -38,13 +46,13 @@ class Output {
     void Flush();
     /// Whether the stream refused something.
     bool Failed() const { return failed_; }
-    /// What was collected without a stream; nothing is left behind.
-    std::string Take() { return std::exchange(buffer_, {}); }
 
   private:
     static constexpr std::size_t kFlushAt = std::size_t{1} << 16;
 
-    std::FILE* stream_;
+    std::FILE* stream_ = nullptr;
+    std::function<void(std::string_view)> take_;
+    bool shows_controls_ = false;
     std::string buffer_;
     bool failed_ = false;
 };

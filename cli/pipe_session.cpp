@@ -1,33 +1,12 @@
 #include "cli/pipe_session.h"
 
+#include "cli/letter_case.h"
 #include "cli/word_input.h"
 #include "dict/custom_words.h"
 
 #include <algorithm>
 
 namespace wordhawk {
-namespace {
-
-enum class LetterCase { Other, Capitalised, Upper };
-
-LetterCase CaseOf(std::wstring_view word) {
-    const bool first_raised = LowerChar(word.front()) != word.front();
-    if (!first_raised) return LetterCase::Other;
-    if (word.size() > 1 && Upper(word) == word) return LetterCase::Upper;
-    return LetterCase::Capitalised;
-}
-
-/// A lower-case suggestion in the manner of the word that it stands for.
-std::wstring InCase(std::wstring suggestion, LetterCase letter_case) {
-    if (letter_case == LetterCase::Upper) return Upper(suggestion);
-    if (letter_case == LetterCase::Capitalised && !suggestion.empty()) {
-        suggestion.front() = UpperChar(suggestion.front());
-    }
-    return suggestion;
-}
-
-}  // namespace
-
 PipeSession::PipeSession(Program& program, Output& out)
     : program_(program), out_(out), suggestion_rules_(SuggestionRules::From(program.settings)) {}
 
@@ -87,12 +66,11 @@ void PipeSession::SavePersonalWords() {
 }
 
 TextChecker& PipeSession::Checker() {
-    // Its verdicts are for the life of one set of dictionaries; and one that has met very many
-    // words is dropped, so that a conversation without end does not grow without end.
-    constexpr std::size_t kMostWords = 200'000;
-    if (!checker_ || checker_->Words().size() > kMostWords) {
+    // Its verdicts are for the life of one set of dictionaries.
+    if (!checker_) {
         checker_ = std::make_unique<TextChecker>(
-            program_.dictionaries, SplitRules::From(program_.state, program_.settings));
+            program_.dictionaries, SplitRules::From(program_.state, program_.settings),
+            Remember::Lately);
         fed_ = 0;
     }
     return *checker_;

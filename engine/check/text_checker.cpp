@@ -6,13 +6,16 @@
 namespace wordhawk {
 namespace {
 
-// Verdicts on known words only save time; beyond this many they are forgotten.
-constexpr std::size_t kMostKnownVerdicts = 50'000;
+// Verdicts on known words, and on all that are remembered only lately, are there to save time; they
+// are forgotten when there are more of them than this, or when their words are longer in all.
+constexpr std::size_t kMostPassingVerdicts = 50'000;
+constexpr std::size_t kMostPassingUnits = std::size_t{1} << 21;
 
 }  // namespace
 
-TextChecker::TextChecker(DictionaryStore& store, const SplitRules& rules)
+TextChecker::TextChecker(DictionaryStore& store, const SplitRules& rules, Remember remember)
     : store_(store),
+      remember_(remember),
       scope_(store.CurrentSettings().SuggFromMain != 0 ? Scope::MainOnly : Scope::MainAndCustom),
       scanner_(rules, store.Page()) {
     // The quick look goes past the store's own check for a changed language.
@@ -26,22 +29,40 @@ std::unique_ptr<PackedWord[], TextChecker::Free> TextChecker::MakeRecent() {
     return std::unique_ptr<PackedWord[], Free>(static_cast<PackedWord*>(zeroed));
 }
 
-std::int64_t TextChecker::IndexOfUnknown(std::wstring_view text) {
+TextChecker::Verdict TextChecker::Judge(std::wstring_view text) {
     lower_.assign(text);
     for (wchar_t& c : lower_) c = LowerChar(c);
     const auto seen = verdicts_.find(std::wstring_view(lower_));
-    if (seen != verdicts_.end()) return seen->second;
+    if (seen != verdicts_.end()) return {seen->second, false};
 
-    std::int64_t verdict = -1;
+    std::int64_t index = -1;
+    bool passing = true;
     if (!store_.IsWordInDictionaries(lower_, scope_)) {
-        verdict = static_cast<std::int64_t>(words_.size());
-        words_.push_back(lower_);
-    } else if (++known_verdicts_ > kMostKnownVerdicts) {
-        std::erase_if(verdicts_, [](const auto& entry) { return entry.second < 0; });
-        known_verdicts_ = 1;
+        index = 0;
+        if (remember_ == Remember::All) {
+            index = static_cast<std::int64_t>(words_.size());
+            words_.push_back(lower_);
+            passing = false;
+        }
     }
-    verdicts_.emplace(lower_, verdict);
-    return verdict;
+    if (passing) {
+        ++passing_verdicts_;
+        passing_units_ += lower_.size();
+        if (passing_verdicts_ > kMostPassingVerdicts || passing_units_ > kMostPassingUnits)
+            ForgetOldVerdicts();
+    }
+    verdicts_.emplace(lower_, index);
+    return {index, true};
+}
+
+void TextChecker::ForgetOldVerdicts() {
+    if (remember_ == Remember::Lately) {
+        verdicts_.clear();
+    } else {
+        std::erase_if(verdicts_, [](const auto& entry) { return entry.second < 0; });
+    }
+    passing_verdicts_ = 1;
+    passing_units_ = lower_.size();
 }
 
 }  // namespace wordhawk

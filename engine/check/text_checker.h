@@ -15,8 +15,10 @@ namespace wordhawk {
 
 /// One occurrence of a word that no dictionary holds. Views are valid during the callback only.
 struct UnknownWord {
-    /// Index of the word in TextChecker::Words().
+    /// Index of the word in TextChecker::Words(); 0 when that list is not kept.
     std::size_t index;
+    /// Not met before, or so long ago that it was forgotten.
+    bool is_new;
     /// Lower-cased, as the list shows it.
     std::wstring_view listed;
     /// As it stands in the text.
@@ -25,11 +27,15 @@ struct UnknownWord {
     std::uint64_t offset;
 };
 
-/// Checks a text that comes in blocks. Memory grows with the number of distinct unknown words only.
+/// Which unknown words a checker remembers: every one, in its list, or only those that it met
+/// lately, so that its memory has a limit whatever the text.
+enum class Remember { All, Lately };
+
+/// Checks a text that comes in blocks.
 class TextChecker {
   public:
     /// The store must outlive the checker; with setting SuggFromMain only main dictionaries count.
-    TextChecker(DictionaryStore& store, const SplitRules& rules);
+    TextChecker(DictionaryStore& store, const SplitRules& rules, Remember remember = Remember::All);
 
     /// Calls `sink(const UnknownWord&)` for every occurrence of an unknown word, in text order.
     /// A block ends behind a space or a line break, or is the last.
@@ -37,10 +43,10 @@ class TextChecker {
     void Feed(std::wstring_view block, Sink&& sink) {
         scanner_.Scan(block, [&](const ScannedWord& word) {
             if (!word.bytes.empty() && IsInMain(word)) return;
-            const std::int64_t index = IndexOfUnknown(word.text);
-            if (index >= 0) {
-                const auto at = static_cast<std::size_t>(index);
-                sink(UnknownWord{at, words_[at], word.text, word.offset});
+            const Verdict verdict = Judge(word.text);
+            if (verdict.index >= 0) {
+                sink(UnknownWord{static_cast<std::size_t>(verdict.index), verdict.is_new, lower_,
+                                 word.text, word.offset});
             }
         });
     }
@@ -49,11 +55,12 @@ class TextChecker {
     template <class Sink>
     void FeedAll(std::wstring_view block, Sink&& sink) {
         scanner_.Scan(block, [&](const ScannedWord& word) {
-            sink(word, (!word.bytes.empty() && IsInMain(word)) || IndexOfUnknown(word.text) < 0);
+            sink(word, (!word.bytes.empty() && IsInMain(word)) || Judge(word.text).index < 0);
         });
     }
 
-    /// The distinct unknown words so far, in the order in which they were met.
+    /// The distinct unknown words so far, in the order in which they were met; none when they are
+    /// remembered only lately.
     const std::vector<std::wstring>& Words() const { return words_; }
 
   private:
@@ -71,8 +78,14 @@ class TextChecker {
         if (packs) recent = word.packed;
         return true;
     }
-    /// The word's place in the list (added when new), or -1 when a dictionary holds it.
-    std::int64_t IndexOfUnknown(std::wstring_view text);
+    struct Verdict {
+        /// The word's place in the list (added when new), or -1 when a dictionary holds it.
+        std::int64_t index;
+        bool is_new;
+    };
+    /// Leaves the lower-cased word in `lower_`.
+    Verdict Judge(std::wstring_view text);
+    void ForgetOldVerdicts();
 
     struct Hash {
         using is_transparent = void;
@@ -92,6 +105,7 @@ class TextChecker {
     static std::unique_ptr<PackedWord[], Free> MakeRecent();
 
     DictionaryStore& store_;
+    Remember remember_;
     Scope scope_;
     WordScanner scanner_;
     /// Words lately found in the main dictionary, each in the place that its bytes choose.
@@ -100,7 +114,9 @@ class TextChecker {
     std::vector<std::wstring> words_;
     /// Lower-cased words that needed more than the quick look: index in the list, or -1.
     std::unordered_map<std::wstring, std::int64_t, Hash, std::equal_to<>> verdicts_;
-    std::size_t known_verdicts_ = 0;
+    std::size_t passing_verdicts_ = 0;
+    /// Units of the words with a passing verdict.
+    std::size_t passing_units_ = 0;
 };
 
 }  // namespace wordhawk

@@ -1,7 +1,9 @@
 """Scenarios of the check command."""
 
 import json
+import os
 import random
+import subprocess
 
 from cli_support import CliTest
 
@@ -54,6 +56,67 @@ class Check(CliTest):
         self.assertEqual(self.run_cli("check", "--list", "t", code=1), "wrold\n")
         self.assertEqual(self.run_cli("check", "--words", "t"), "WRold\nWrold\nwrold\n")
         self.assertEqual(self.run_cli("-l", stdin=b"WRold Wrold wrold"), "WRold\nWrold\nwrold\n")
+
+    def test_suggests_in_the_case_of_the_word(self):
+        self.write("t", "Recieve RECIEVE recieve Recieve")
+        words = ["Receive", "RECEIVE", "receive", "Receive"]
+        lines = self.run_cli("check", "t", code=1).splitlines()
+        self.assertEqual([line.split(" -> ")[1] for line in lines], [word + " (86%)" for word in words])
+        rows = [json.loads(line) for line in self.run_cli("check", "--json", "t", code=1).splitlines()]
+        self.assertEqual([row["suggestions"][0]["word"] for row in rows], words)
+
+    def test_shows_control_characters(self):
+        self.write("t", "he\x1blo \u202ewrold \u0081zz")
+        out = self.run_cli("check", "--no-suggestions", "t", code=1)
+        self.assertEqual([p[2] for p in self.places(out)], ["he\\x1blo", "\\u202ewrold", "\\u0081zz"])
+        out = self.run_cli("check", "--json", "t", code=1)
+        self.assertNotIn("\u202e", out)
+        self.assertNotIn("\u0081", out)
+        self.assertEqual([json.loads(line)["word"] for line in out.splitlines()],
+                         ["he\x1blo", "\u202ewrold", "\u0081zz"])
+        self.assertEqual(self.run_cli("check", "--words", "t"), "he\x1blo\n\u202ewrold\n\u0081zz\n")
+        if not self.program.is_windows:
+            self.write("x\nt:1:1: \x1b[31m", "helo")
+            self.assertEqual(self.run_cli("check", "--no-suggestions", "x\nt:1:1: \x1b[31m", code=1),
+                             "x\\x0at:1:1: \\x1b[31m:1:1: helo\n")
+            self.assertEqual(self.fail_cli("check", "no\x7f\u009bsuch"),
+                             "wordhawk-cli: no\\x7f\\u009bsuch: no such file\n")
+
+    def test_shows_control_characters_on_a_terminal_in_every_format(self):
+        if self.program.is_windows:
+            self.skipTest("needs a pseudo-terminal")
+        import pty
+        self.write("t", "he\x1blo")
+        for option in ["--list", "--words", "--no-suggestions"]:
+            main, terminal = pty.openpty()
+            arguments = [*self.program.command, "--data", self.data, "--locale", "1033", "check", option, "t"]
+            subprocess.run(list(map(str, arguments)), stdout=terminal, stderr=subprocess.DEVNULL, cwd=self.folder,
+                           env=dict(os.environ, NO_COLOR="1"), check=False)
+            os.close(terminal)
+            self.assertIn(b"he\\x1blo", os.read(main, 4096), option)
+            os.close(main)
+
+    def test_memory_does_not_grow_with_the_text(self):
+        if self.program.is_windows:
+            self.skipTest("Wine's own memory is in the figure")
+        def peak(*arguments):
+            process = subprocess.Popen([*self.program.command, "--data", str(self.data), "--locale", "1033", "check",
+                                        *arguments], stdout=subprocess.DEVNULL, cwd=self.folder,
+                                       env=dict(os.environ, ASAN_OPTIONS="quarantine_size_mb=1"))
+            _, status, usage = os.wait4(process.pid, 0)
+            process.returncode = os.waitstatus_to_exitcode(status)
+            self.assertIn(process.returncode, (0, 1))
+            return usage.ru_maxrss // 1024
+        letters = "abcdefghijklmnopqrstuvwxyz"
+        words = ["zq" + "".join(letters[i // 26 ** k % 26] for k in range(4)) for i in range(300_000)]
+        for name, count in [("small", 60_000), ("large", 300_000)]:
+            self.write(name + ".txt", "\n".join(words[:count]))
+            self.write(name + ".rtf", "{\\rtf1 " + "\\par\n".join(words[:count]) + "}")
+        for options in [["-l"], ["--no-suggestions"], ["--list"], ["--json", "--no-suggestions"]]:
+            for kind in [".txt", ".rtf"]:
+                grown = peak(*options, "large" + kind) - peak(*options, "small" + kind)
+                # A list needs its words, and little more; the others need nothing of what was.
+                self.assertLess(grown, 25 if options == ["--list"] else 8, (options, kind))
 
     def test_lists_each_word_once_over_all_files(self):
         self.write("t", "zeta helo zeta")

@@ -164,7 +164,8 @@ class BuildDictionary(CliTest):
         self.write("bad words", "BAD\n")
         done = self.build("--code-page", "1250", "--pieces", "--exclude", "bad words", "list")
         self.assertEqual(done.returncode, 0, done.stderr)
-        out = b"".join(p.read_bytes() for p in sorted((self.folder / "out").iterdir()))
+        self.assertEqual((self.folder / "out/codepage.txt").read_bytes(), b"1250\r\n")
+        out = b"".join(p.read_bytes() for p in sorted((self.folder / "out").glob("*.dic")))
         words = [line.split(",")[0] for line in out.decode("cp1250").split("\r\n") if line]
         self.assertEqual(sorted(words), sorted(["isn", "isn't", "known", "well", "well-known", "żółw"]))
 

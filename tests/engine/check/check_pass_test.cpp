@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace wordhawk {
 namespace {
 
@@ -107,6 +109,28 @@ TEST_F(CheckPass, OccurrencesAgreeWithLookingUpEveryWord) {
         });
         ASSERT_EQ(got, expected) << "round " << round;
     }
+}
+
+TEST_F(CheckPass, RememberingWordsOnlyLatelyChangesNoVerdict) {
+    std::wstring text;
+    for (int i = 0; i < 70'000; ++i) {
+        text += L"zz";
+        for (int rest = i; rest > 0; rest /= 26) text += static_cast<wchar_t>(L'a' + rest % 26);
+        text += i % 3 == 0 ? L" the cat " : L" zzz ";
+    }
+    TextChecker all(data_.store, rules_);
+    std::vector<std::uint64_t> expected;
+    all.Feed(text, [&](const UnknownWord& word) { expected.push_back(word.offset); });
+    TextChecker lately(data_.store, rules_, Remember::Lately);
+    std::vector<std::uint64_t> got;
+    std::set<std::wstring> listed;
+    lately.Feed(text, [&](const UnknownWord& word) {
+        got.push_back(word.offset);
+        EXPECT_TRUE(listed.insert(std::wstring(word.listed)).second <= word.is_new);
+    });
+    EXPECT_EQ(got, expected);
+    EXPECT_EQ(listed, std::set<std::wstring>(all.Words().begin(), all.Words().end()));
+    EXPECT_TRUE(lately.Words().empty());
 }
 
 }  // namespace
