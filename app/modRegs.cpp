@@ -80,6 +80,7 @@ constexpr std::array kRows = {
     Row<&Settings::ExtraDiversity>(L"ExtraDiversity", L"0"),
     Row<&Settings::PrefTab>(L"PrefTab", L"0"),
     Row<&Settings::Language>(L"Language", L""),
+    Row<&Settings::KeepUnsaved>(L"KeepUnsaved", L"1"),
     Row<&Settings::WideSearch>(L"WideSearch", L"0"),
     Row<&Settings::StraightApostrophe>(L"StraightApostrophe", L"0"),
     Row<&Settings::Compounds>(L"Compounds", L"0"),

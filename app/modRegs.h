@@ -34,6 +34,9 @@ struct Settings {
     int PrefTab = 0;
     std::wstring Language;
 
+    /// A text that would be lost is kept in the folder of saved texts.
+    std::uint8_t KeepUnsaved = 1;
+
     // The modern ways of checking; in the window and for automation each is off unless set.
 
     /// Suggestions come from the whole dictionary.

@@ -38,42 +38,6 @@ std::string EncodeUtf16(std::wstring_view text, ByteOrder order) {
     return bytes;
 }
 
-LineEnds MostUsedLineEnds(std::wstring_view text) {
-    std::size_t crlf = 0;
-    std::size_t lf = 0;
-    std::size_t cr = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == L'\n') {
-            ++lf;
-        } else if (text[i] == L'\r') {
-            const bool pair = i + 1 < text.size() && text[i + 1] == L'\n';
-            ++(pair ? crlf : cr);
-            i += pair;
-        }
-    }
-    if (crlf >= lf && crlf >= cr) return LineEnds::CrLf;
-    return lf >= cr ? LineEnds::Lf : LineEnds::Cr;
-}
-
-std::wstring WithLineEnds(std::wstring_view text, LineEnds line_ends) {
-    const std::wstring_view line_end = line_ends == LineEnds::CrLf ? L"\r\n"
-                                       : line_ends == LineEnds::Lf ? L"\n"
-                                                                   : L"\r";
-    std::wstring result;
-    result.reserve(text.size() + text.size() / 32);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == L'\r') {
-            i += i + 1 < text.size() && text[i + 1] == L'\n';
-            result += line_end;
-        } else if (text[i] == L'\n') {
-            result += line_end;
-        } else {
-            result += text[i];
-        }
-    }
-    return result;
-}
-
 bool FitsPage(std::wstring_view text, const AnsiCodePage& page) {
     for (const wchar_t c : text) {
         if (page.ToByteOrNone(c) < 0) return false;
@@ -126,25 +90,28 @@ DocumentText DecodeDocument(std::string_view bytes, const AnsiCodePage& page) {
     document.encoding = DetectEncoding(bytes);
     bytes.remove_prefix(EncodingMark(document.encoding).size());
     AppendDecoded(bytes, document.encoding, page, document.text);
-    document.line_ends = MostUsedLineEnds(document.text);
+    document.line_ends = LineEndMemory(document.text).MostUsed();
     return document;
 }
 
 std::string EncodeDocument(std::wstring_view text, TextEncoding encoding, LineEnds line_ends,
                            const AnsiCodePage& page) {
-    const std::wstring lines = WithLineEnds(text, line_ends);
-    if (encoding == TextEncoding::Ansi && !FitsPage(lines, page)) {
+    return EncodeText(WithLineEnds(text, line_ends), encoding, page);
+}
+
+std::string EncodeText(std::wstring_view text, TextEncoding encoding, const AnsiCodePage& page) {
+    if (encoding == TextEncoding::Ansi && !FitsPage(text, page)) {
         encoding = TextEncoding::Utf8WithMark;
     }
     std::string bytes(EncodingMark(encoding));
     switch (encoding) {
-        case TextEncoding::Ansi: bytes += page.Encode(lines); break;
+        case TextEncoding::Ansi: bytes += page.Encode(text); break;
         case TextEncoding::Utf8:
-        case TextEncoding::Utf8WithMark: bytes += ToUtf8(lines); break;
+        case TextEncoding::Utf8WithMark: bytes += ToUtf8(text); break;
         case TextEncoding::Utf16LittleEndian:
-            bytes += EncodeUtf16(lines, ByteOrder::LowFirst);
+            bytes += EncodeUtf16(text, ByteOrder::LowFirst);
             break;
-        case TextEncoding::Utf16BigEndian: bytes += EncodeUtf16(lines, ByteOrder::HighFirst); break;
+        case TextEncoding::Utf16BigEndian: bytes += EncodeUtf16(text, ByteOrder::HighFirst); break;
     }
     return bytes;
 }

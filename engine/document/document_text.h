@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/document/line_ends.h"
 #include "platform/files.h"
 #include "platform/text.h"
 
@@ -10,7 +11,6 @@
 namespace wordhawk {
 
 enum class TextEncoding { Ansi, Utf8, Utf8WithMark, Utf16LittleEndian, Utf16BigEndian };
-enum class LineEnds { CrLf, Lf, Cr };
 
 /// A plain-text document as read, with what is needed to save it back as it came.
 struct DocumentText {
@@ -40,5 +40,7 @@ DocumentText DecodeDocument(std::string_view bytes, const AnsiCodePage& page);
 /// nothing is lost.
 std::string EncodeDocument(std::wstring_view text, TextEncoding encoding, LineEnds line_ends,
                            const AnsiCodePage& page);
+/// The same with the line ends that `text` has.
+std::string EncodeText(std::wstring_view text, TextEncoding encoding, const AnsiCodePage& page);
 
 }  // namespace wordhawk

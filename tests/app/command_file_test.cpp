@@ -1,6 +1,11 @@
 #include "app/command_file.h"
 
+#include "platform/text.h"
+#include "tests/support/temp_dir.h"
+
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace wordhawk {
 namespace {
@@ -31,6 +36,33 @@ TEST(CommandFile, IsWhatTheLineNames) {
         {L"\x4e01 \x00E9.rtf", L"\x4e01 \x00E9.rtf", "any script"},
     };
     for (const Case& row : cases) EXPECT_EQ(CommandFileFrom(row.line), row.file) << row.reason;
+}
+
+TEST(CommandFile, FileWithAnApostropheInItsNameIsTheOneThatIsMeant) {
+    const test::TempDir folder;
+    const std::wstring written = TextFromPath(folder / L"don't do.txt");
+    const std::wstring other = TextFromPath(folder / L"dont do.txt");
+    test::WriteBytes(PathFromText(other), "other");
+    EXPECT_EQ(CommandFileFrom(L'"' + written + L'"'), other) << "no such file yet";
+    test::WriteBytes(PathFromText(written), "meant");
+    for (const std::wstring& line :
+         {L'"' + written + L'"', written, L" \"" + written + L"\" /x", written + L" "}) {
+        EXPECT_EQ(CommandFileFrom(line), written) << ToUtf8(line);
+    }
+    EXPECT_EQ(CommandFileFrom(L"'" + written + L"'"), other);
+}
+
+TEST(CommandFile, NameIsMadeAbsoluteByTheFolderOfThatMoment) {
+    const test::TempDir folder;
+    const Path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Folder());
+    const std::wstring name = AbsoluteName(L"note.txt");
+    test::WriteBytes("note.txt", "text");
+    std::filesystem::current_path(before);
+    EXPECT_TRUE(PathFromText(name).is_absolute());
+    EXPECT_EQ(test::ReadBytes(PathFromText(name)), "text");
+    EXPECT_EQ(AbsoluteName(TextFromPath(folder / L"a.txt")), TextFromPath(folder / L"a.txt"));
+    EXPECT_EQ(AbsoluteName(L""), L"");
 }
 
 }  // namespace

@@ -54,6 +54,7 @@ TEST_F(ModRegs, KeysAndDefaults) {
         {L"ExtraDiversity", L"0"},
         {L"PrefTab", L"0"},
         {L"Language", L""},
+        {L"KeepUnsaved", L"1"},
         {L"WideSearch", L"0"},
         {L"StraightApostrophe", L"0"},
         {L"Compounds", L"0"},

@@ -237,13 +237,17 @@ void CorrectionCommands::ShowError(int text, const Error& error) {
                                   MessageButtons::Ok);
 }
 
-void CorrectionCommands::PutOnClipboard(const std::wstring& text) {
-    if (!parts_.desktop.clipboard.SetPlainText(text)) ShowError(text_id::kClipboardInUse, {});
+bool CorrectionCommands::PutOnClipboard(const std::wstring& text) {
+    const bool done = parts_.desktop.clipboard.SetPlainText(text);
+    if (!done) ShowError(text_id::kClipboardInUse, {});
+    return done;
 }
 
 void CorrectionCommands::CopyData() {
     if (!parts_.controls.document.Empty()) {
-        PutOnClipboard(parts_.controls.document.Text());
+        // The whole text is safe there as plain text; a rich one is not.
+        DocumentPane& document = parts_.controls.document;
+        if (PutOnClipboard(document.Text()) && !document.IsRich()) document.MarkSaved();
     } else {
         CopyWord();
     }

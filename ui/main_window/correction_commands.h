@@ -68,7 +68,8 @@ class CorrectionCommands {
     void Announce(CompletionNotice notice);
     /// Says what went wrong with which file.
     void ShowError(int text, const Error& error);
-    void PutOnClipboard(const std::wstring& text);
+    /// False when the clipboard is not to be had; the user knows.
+    bool PutOnClipboard(const std::wstring& text);
 
   private:
     void Run(const SessionStep& step);

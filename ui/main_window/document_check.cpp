@@ -26,12 +26,9 @@ SpellCheckArguments DocumentCheck::OwnArguments() {
 
 bool DocumentCheck::TakeFile(const Path& file, TextForm form) {
     if (!ForAutomation()) return parts_.files.LoadCommandFile();
-    const Hourglass busy(parts_.program.ui);
-    const Result<void> loaded = form == TextForm::Rich ? parts_.document.LoadRichFile(file)
-                                                       : parts_.document.LoadPlainFile(
-                                                             file, *parts_.program.state.CodePage);
     // The caller learns it from the result; the user asked for nothing.
-    if (!loaded) return false;
+    const DocumentKind kind = form == TextForm::Rich ? DocumentKind::Rich : DocumentKind::Plain;
+    if (!parts_.files.Take(file, kind)) return false;
     SetWindowTextW(parts_.form.Handle(),
                    (TextFromPath(file.filename()) + L" - " + FromUtf8(WORDHAWK_TITLE)).c_str());
     return true;
@@ -69,16 +66,15 @@ bool DocumentCheck::ShowWords(CheckResult result) {
     const std::size_t count = result.words.size();
     cancelled_ = result.cancelled;
     words_left_ = parts_.commands.Begin(std::move(result.words));
-    if (cancelled_) {
-        parts_.status.Say(LoadResText(state, text_id::kCheckCancelled));
-    } else if (ListFiles(state.LanguageDictFolder, L".dic").empty()) {
-        parts_.status.Say(LoadResText(state, text_id::kNoDictionary));
-    } else {
-        parts_.status.Say(Filled(LoadResText(state, count == 0   ? text_id::kNoUnknownWords
-                                                    : count == 1 ? text_id::kOneUnknownWord
-                                                                 : text_id::kUnknownWords),
-                                 {std::to_wstring(count)}));
-    }
+    const int outcome = cancelled_ ? text_id::kCheckCancelled
+                        : ListFiles(state.LanguageDictFolder, L".dic").empty()
+                            ? text_id::kNoDictionary
+                        : count == 0 ? text_id::kNoUnknownWords
+                        : count == 1 ? text_id::kOneUnknownWord
+                                     : text_id::kUnknownWords;
+    const std::wstring note = parts_.files.TakeNote();
+    parts_.status.Say(Filled(LoadResText(state, outcome), {std::to_wstring(count)}) +
+                      (note.empty() ? L"" : L" ") + note);
     return words_left_;
 }
 
@@ -109,13 +105,7 @@ TextForm DocumentCheck::Form() const {
     return parts_.document.IsRich() ? TextForm::Rich : TextForm::Plain;
 }
 
-bool DocumentCheck::SaveFile(const Path& file) {
-    const Result<void> saved = parts_.document.IsRich() ? parts_.document.SaveRichFile(file)
-                                                        : parts_.document.SavePlainFile(
-                                                              file, *parts_.program.state.CodePage);
-    if (!saved) parts_.commands.ShowError(text_id::kCannotWrite, saved.error());
-    return saved.has_value();
-}
+bool DocumentCheck::SaveFile(const Path& file) { return parts_.files.Save(file); }
 
 bool DocumentCheck::SetClipboard() {
     DocumentPane& document = parts_.document;

@@ -1,9 +1,8 @@
 #include "ui/main_window/document_pane.h"
 
+#include "engine/document/rtf_rewrite.h"
 #include "engine/document/rtf_text.h"
-#include "platform/files.h"
-#include "platform/replace_file.h"
-#include "ui/main_window/rtf_filter.h"
+#include "ui/main_window/screen_colour.h"
 
 #include <algorithm>
 #include <functional>
@@ -206,8 +205,10 @@ void DocumentPane::Undo() {
 void DocumentPane::Paste() {
     // Rich before plain, and never the control's own way, which would let objects in.
     if (const auto rtf = clipboard_.HasRichText() ? clipboard_.RichText() : std::nullopt) {
-        if (LooksLikeRtf(*rtf) && rtbW.SetRtf(RtfWithoutObjects(*rtf), RichEdit::Into::Selection)) {
-            return;
+        if (LooksLikeRtf(*rtf)) {
+            if (before_rich_text) before_rich_text();
+            const std::string rewritten = RewriteRtf(*rtf, look_.face).rtf;
+            if (rtbW.SetRtf(rewritten, RichEdit::Into::Selection)) return;
         }
     }
     if (const auto text = clipboard_.PlainText()) rtbW.ReplaceSelection(*text);
@@ -253,55 +254,34 @@ void DocumentPane::LoadPlainText(DocumentText document) {
     Renew();
     rich_ = false;
     encoding_ = document.encoding;
-    line_ends_ = document.line_ends;
+    line_ends_ = LineEndMemory(document.text);
+    if (!line_ends_.Mixed()) line_ends_ = LineEndMemory(document.line_ends);
     ApplyTheme();
-    rtbW.SetPlainText(document.text);
+    // One paragraph for each line, whatever the system makes of mixed line ends.
+    rtbW.SetPlainText(WithLineEnds(document.text, LineEnds::Cr));
     OnChanged();
     MarkSaved();
 }
 
-void DocumentPane::LoadRichText(std::string_view rtf) {
+DocumentPane::Loaded DocumentPane::LoadRichText(std::string_view rtf) {
+    const RewrittenRtf rewritten = RewriteRtf(rtf, look_.face);
     Renew();
     rich_ = true;
     encoding_ = TextEncoding::Utf8;
-    line_ends_ = LineEnds::CrLf;
+    line_ends_ = {};
+    // Plain: else the box may take its default format from what comes in first.
+    RichEdit::Look plain = look_;
+    plain.text = std::nullopt;
+    rtbW.SetLook(plain);
     ApplyTheme();
-    rtbW.SetRtf(RtfWithoutObjects(rtf), RichEdit::Into::Document);
+    rtbW.SetRtf(rewritten.rtf, RichEdit::Into::Document);
     OnChanged();
     MarkSaved();
+    return rewritten.dropped ? Loaded::InPart : Loaded::Whole;
 }
 
-Result<void> DocumentPane::LoadPlainFile(const Path& file, const AnsiCodePage& page) {
-    const Result<std::string> bytes = ReadWholeFile(file);
-    if (!bytes) return tl::unexpected(bytes.error());
-    LoadPlainText(DecodeDocument(*bytes, page));
-    return {};
-}
-
-Result<void> DocumentPane::LoadRichFile(const Path& file) {
-    const Result<std::string> bytes = ReadWholeFile(file);
-    if (!bytes) return tl::unexpected(bytes.error());
-    // An empty file is an empty document; anything else must say what it is.
-    if (!bytes->empty() && !LooksLikeRtf(*bytes)) {
-        return tl::unexpected(Error{L"the file holds no rich text", file});
-    }
-    LoadRichText(*bytes);
-    return {};
-}
-
-Result<void> DocumentPane::SavePlainFile(const Path& file, const AnsiCodePage& page) {
-    const Result<void> saved =
-        ReplaceFileContents(file, EncodeDocument(Text(), encoding_, line_ends_, page));
-    if (saved) MarkSaved();
-    return saved;
-}
-
-Result<void> DocumentPane::SaveRichFile(const Path& file) {
-    const std::string rtf = RichText();
-    if (rtf.empty()) return tl::unexpected(Error{L"not enough memory", file});
-    const Result<void> saved = ReplaceFileContents(file, rtf);
-    if (saved) MarkSaved();
-    return saved;
+std::string DocumentPane::PlainBytes(const AnsiCodePage& page) {
+    return EncodeText(line_ends_.Restore(Text()), encoding_, page);
 }
 
 std::string DocumentPane::RichText() {

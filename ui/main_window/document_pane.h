@@ -42,21 +42,25 @@ class DocumentPane : public SpellDocument {
     /// The control said that its text changed.
     void OnChanged();
 
-    /// Replaces the document. A file that cannot be read leaves it as it is.
-    Result<void> LoadPlainFile(const Path& file, const AnsiCodePage& page);
-    Result<void> LoadRichFile(const Path& file);
+    /// Whether everything of what was loaded is in the document.
+    enum class Loaded { Whole, InPart };
+    /// Replaces the document.
     void LoadPlainText(DocumentText document);
-    void LoadRichText(std::string_view rtf);
-    /// Writes the document whole or not at all: plain in the encoding and line ends that it came
-    /// in.
-    Result<void> SavePlainFile(const Path& file, const AnsiCodePage& page);
-    Result<void> SaveRichFile(const Path& file);
+    Loaded LoadRichText(std::string_view rtf);
+    /// The document as plain text in the encoding that it came in, each line with the end that it
+    /// had there.
+    std::string PlainBytes(const AnsiCodePage& page);
+    /// Empty when there is not enough memory.
     std::string RichText();
+    /// Called before rich text is put into the system's rich text box while there is something to
+    /// lose in it.
+    std::function<void()> before_rich_text;
     /// Whether the text differs from what was loaded or saved last, be it that it is gone.
     bool Changed() const { return revision_ != saved_revision_; }
-    bool HasUnsavedText() { return !Empty() && Changed(); }
+    bool HasUnsavedText() { return Changed() && !Empty(); }
     /// The text is safe elsewhere, as it is now.
     void MarkSaved() { saved_revision_ = revision_; }
+    void MarkUnsaved() { saved_revision_ = 0; }
     /// Whether the text came in as rich text.
     bool IsRich() const { return rich_; }
 
@@ -99,7 +103,7 @@ class DocumentPane : public SpellDocument {
     bool undoing_ = false;
     bool rich_ = false;
     TextEncoding encoding_ = TextEncoding::Utf8;
-    LineEnds line_ends_ = LineEnds::CrLf;
+    LineEndMemory line_ends_;
     std::vector<Group> groups_;
 };
 

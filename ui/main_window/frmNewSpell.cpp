@@ -8,6 +8,7 @@
 #include "lang/text_ids.h"
 #include "platform/modICCX.h"
 #include "platform/win32/win.h"
+#include "ui/dialogs/frmPreferences.h"
 #include "ui/framework/themed_drawing.h"
 #include "ui/main_window/main_captions.h"
 #include "ui/resource.h"
@@ -16,6 +17,7 @@
 #include <richedit.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace wordhawk {
 
@@ -57,13 +59,12 @@ Dialog::Look frmNewSpell::WantedLook() const {
 
 bool frmNewSpell::Make() {
     Form_Initialize();
-    if (!Create(nullptr)) return false;
-    geometry_.Restore(handle_, MeasureNow());
-    return true;
+    return Create(nullptr);
 }
 
 bool frmNewSpell::Show() {
     if (!Make()) return false;
+    geometry_.Restore(handle_, MeasureNow());
     ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
     const bool check_at_once = program_.state.ProgramMode && files_.CommandFileIsPending();
     MoveFocus(check_at_once ? static_cast<const Control&>(lstNID) : rtbW);
@@ -71,6 +72,8 @@ bool frmNewSpell::Show() {
         // A large document takes its time: until then, a whole window and not the outline of one.
         RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
         cmdSpellcheck_Click();
+    } else if (files_.OfferRecovered()) {
+        CheckDocument();
     }
     return true;
 }
@@ -137,6 +140,7 @@ void frmNewSpell::Form_Load() {
         files_.TakeClipboard();
     }
     files_.TellOfKept();
+    SetTimer(handle_, kRecoveryTimer, kRecoveryMilliseconds, nullptr);
     commands_.UpdateButtons();
     ShowTitle();
     loaded_ = true;
@@ -153,10 +157,11 @@ void frmNewSpell::LoadSettings() {
     const Settings& settings = program_.settings;
     lstSco.SetVisible(settings.ScoreBox);
     lblDum[2].SetVisible(settings.ScoreBox);
-    for (Button* button : {&cmdOpen, &cmdSaveAs}) {
-        button->SetVisible(settings.OpenSave);
-        button->SetEnabled(settings.OpenSave);
-    }
+    cmdOpen.SetVisible(settings.OpenSave);
+    cmdOpen.SetEnabled(settings.OpenSave);
+    // A text that could not be written back must get out in some way.
+    cmdSaveAs.SetVisible(settings.OpenSave || save_back_failed_);
+    cmdSaveAs.SetEnabled(settings.OpenSave || save_back_failed_);
     menus_.CheckSearchMode(settings.SortBy);
     ShowCustomDictionaries();
     Form_Resize();
@@ -221,6 +226,15 @@ long frmNewSpell::SpellCheck(SpellCheckArguments& arguments) {
     return cSpellit(program_, check_).SpellCheck(arguments);
 }
 
+void frmNewSpell::TellOfUnreadable() {
+    if (const auto failure = std::exchange(program_.install_failure, std::nullopt))
+        commands_.ShowError(text_id::kCannotInstall, *failure);
+    const std::vector<Error>& unreadable = program_.dictionaries.Unreadable();
+    if (unreadable_told_ == unreadable.size()) return;
+    unreadable_told_ = unreadable.size();
+    commands_.ShowError(text_id::kCannotReadDictionary, unreadable.back());
+}
+
 void frmNewSpell::CheckDocument() {
     const HWND focus_before = GetFocus();
     SpellCheckArguments arguments = check_.OwnArguments();
@@ -249,6 +263,7 @@ void frmNewSpell::CheckDocument() {
 // Another program has the keyboard, and the system may refuse to take it away: then the window is
 // at least to be seen.
 void frmNewSpell::ShowToUser() {
+    geometry_.Restore(handle_, MeasureNow());
     ShowWindow(handle_, IsZoomed(handle_) ? SW_SHOWMAXIMIZED : SW_SHOW);
     if (!SetForegroundWindow(handle_) || GetForegroundWindow() != handle_) {
         constexpr UINT kInPlace = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
@@ -322,8 +337,19 @@ void frmNewSpell::cmdOptions_Click() {
 }
 
 void frmNewSpell::cmdPreferences_Click() {
-    // The preferences dialog belongs here.
+    if (running_ != nullptr) return;
+    const std::wstring language = program_.state.LanguageId;
+    frmPreferences(program_, desktop_).ShowModal(handle_);
+    // The system may have ended the program meanwhile.
+    if (handle_ == nullptr) return;
+    if (program_.state.LanguageId != language) ApplyCaptions();
+    // The list stays as the dialogs left it: what an earlier, longer one left in the file is read
+    // at the next start.
+    const std::vector<std::wstring> dictionaries = program_.settings.CustomDictionaries;
     LoadSettings();
+    program_.settings.CustomDictionaries = dictionaries;
+    program_.dictionaries.ReloadCustomDictionaries();
+    ShowCustomDictionaries();
 }
 
 void frmNewSpell::cboChgTo_Click() {
@@ -365,12 +391,24 @@ void frmNewSpell::Unload() {
 }
 
 bool frmNewSpell::Form_QueryUnload() {
+    using Questions = DocumentFiles::Questions;
     commands_.recent.SaveRecentChanges(program_.state.SettingsProfile());
-    if (files_.SaveBack()) return true;
-    // Once, the window stays, so that the text can be saved elsewhere.
     const bool failed_before = save_back_failed_;
-    save_back_failed_ = true;
-    return failed_before;
+    const bool saved_elsewhere = failed_before && !document.HasUnsavedText();
+    const auto questions = session_ends_ ? Questions::AnsweredNo : Questions::Asked;
+    if (!saved_elsewhere && !files_.SaveBack(questions) && !session_ends_) {
+        // Once, the window stays, so that the text can be saved elsewhere.
+        save_back_failed_ = true;
+        if (!failed_before) {
+            cmdSaveAs.SetVisible(true);
+            cmdSaveAs.SetEnabled(true);
+            Form_Resize();
+            return false;
+        }
+    }
+    // A check that is cut short ends here, and its text is handed back.
+    if (!session_ends_ && !commands_.session.Words().empty()) files_.SetClipboard();
+    return true;
 }
 
 void frmNewSpell::Form_Unload() {

@@ -81,6 +81,8 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     ButtonDrag& Drag() { return drag_; }
     std::wstring SuggestionTip(int row) const { return suggestions_.Explanation(row); }
     bool OptionsShown() const { return geometry_.OptionsShown(); }
+    /// A check or a long command is letting messages through.
+    bool IsRunning() const { return running_ != nullptr; }
     bool CloseIsPending() const { return tmrBye_.Enabled(); }
 
     /// Takes over the words that a check found and goes to the one that comes first in the
@@ -150,6 +152,9 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
   private:
     static void Form_Initialize();
     void Form_Load();
+    static constexpr UINT_PTR kRecoveryTimer = 2;
+    static constexpr UINT kRecoveryMilliseconds = 1000;
+
     bool Form_QueryUnload();
     void Form_Unload();
 
@@ -207,6 +212,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     bool loaded_ = false;
     bool close_when_done_ = false;
     bool save_back_failed_ = false;
+    bool session_ends_ = false;
     std::size_t unreadable_told_ = 0;
 };
 

@@ -88,6 +88,11 @@ void frmNewSpell::OnScroll(HWND control) {
 }
 
 bool frmNewSpell::OnTimer(UINT_PTR id) {
+    if (id == kRecoveryTimer) {
+        // What runs holds on to the text.
+        if (running_ == nullptr) files_.KeepRecoveryCopy();
+        return true;
+    }
     if (id != ClosingTimer::kId) return false;
     tmrBye_Timer();
     return true;
@@ -185,6 +190,7 @@ frmNewSpell::Reply frmNewSpell::OnNotify(NMHDR& news) {
 
 frmNewSpell::Reply frmNewSpell::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_ENDSESSION && wparam != FALSE) {
+        session_ends_ = true;
         Unload();
         return 0;
     }

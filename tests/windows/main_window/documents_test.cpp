@@ -122,6 +122,8 @@ TEST_F(Documents, SaveBackThatFailsIsToldAndKeepsTheWindowOnce) {
     EXPECT_NE(fakes_.ui.shown[0].text.find(L"note.txt"), std::wstring::npos);
     EXPECT_TRUE(IsOpen());
     EXPECT_EQ(ReadBytes(file), "teh dog");
+    EXPECT_TRUE(Controls().cmdSaveAs.Visible() && Controls().cmdSaveAs.Enabled())
+        << "a way out, also without OpenSave";
     Form().Unload();
     EXPECT_FALSE(IsOpen());
     SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
@@ -240,7 +242,8 @@ TEST_F(Documents, RichTextComesBackTheSameAfterSavingAndOpening) {
 }
 
 TEST_F(Documents, TextThatWouldBeLostIsKeptAndTold) {
-    const Path kept = folder_ / L"data" / "Saves" / "Unsaved text.txt";
+    const Path saves = folder_ / L"data" / "Saves";
+    const Path kept = saves / "Unsaved text.txt";
     Open(File(L"note.txt", "teh dog"));
     Form().Unload();
     EXPECT_FALSE(IsFile(kept)) << "an unchanged text is still in its file";
@@ -250,11 +253,14 @@ TEST_F(Documents, TextThatWouldBeLostIsKeptAndTold) {
     EXPECT_EQ(ReadBytes(kept), "tea dog") << "another document takes its place";
     Controls().rtbW.ReplaceSelection(L"caf\u00E9 \u4E2D");
     Form().Unload();
-    EXPECT_EQ(ReadBytes(kept),
+    EXPECT_EQ(ReadBytes(kept), "tea dog") << "one text does not take the other's place";
+    EXPECT_EQ(ReadBytes(saves / "Unsaved text 2.txt"),
               "caf\xC3\xA9 \xE4\xB8\xAD"
               "a dog");
     Open();
-    EXPECT_NE(Controls().lblStatus.Text().find(L"Saves\\Unsaved text.txt"), std::wstring::npos);
+    EXPECT_NE(Controls().lblStatus.Text().find(L"Saves\\Unsaved text 2.txt"), std::wstring::npos);
+    Open();
+    EXPECT_EQ(Controls().lblStatus.Text(), L"") << "told once";
 }
 
 TEST_F(Documents, SavedTextIsNotKeptBesides) {
@@ -272,6 +278,32 @@ TEST_F(Documents, SavedTextIsNotKeptBesides) {
     Form().cmdSaveAs_Click();
     Form().Unload();
     EXPECT_FALSE(IsFile(kept)) << "a file has it";
+    Setting(L"SetClip", L"0");
+    OpenWith(L"teh dog");
+    Click(Controls().cmdChange);
+    Click(Controls().cmdCopyData);
+    Form().Unload();
+    EXPECT_FALSE(IsFile(kept)) << "the whole text was copied";
+    Setting(L"KeepUnsaved", L"0");
+    OpenWith(L"teh dog");
+    Click(Controls().cmdChange);
+    Form().Unload();
+    EXPECT_FALSE(IsFile(kept)) << "switched off";
+}
+
+TEST_F(Documents, ClosingMidwayHandsTheTextBackToTheClipboard) {
+    Setting(L"SetClip", L"1");
+    fakes_.clipboard.plain = L"before";
+    OpenWith(L"teh dgo");
+    Click(Controls().cmdChange);
+    ASSERT_FALSE(Listed().empty());
+    Form().Unload();
+    EXPECT_EQ(fakes_.clipboard.plain, L"tea dgo");
+    OpenWith(L"teh");
+    Click(Controls().cmdChange);
+    fakes_.clipboard.plain = L"copied since";
+    Form().Unload();
+    EXPECT_EQ(fakes_.clipboard.plain, L"copied since") << "that check was over";
 }
 
 TEST_F(Documents, DroppedFileIsLoadedAndChecked) {

@@ -5,10 +5,6 @@
 
 namespace wordhawk {
 
-/// The RTF document without its pictures and embedded objects, which the program neither shows nor
-/// lets near the system's object code. Everything else stays byte for byte.
-std::string RtfWithoutObjects(std::string_view rtf);
-
 /// The RTF document with the text colour `red, green, blue` of its colour table made the reader's
 /// own: dark mode shows a plain document in a colour that must not go into a file.
 std::string RtfWithAutomaticColour(std::string_view rtf, int red, int green, int blue);
