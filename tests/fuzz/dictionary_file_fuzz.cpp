@@ -135,7 +135,7 @@ void CheckRemoval(const std::string& bytes, const std::string& entry) {
 
 TEST(FuzzDictionaryFile, KeepsItsPromisesWhateverTheBytes) {
     for (std::uint32_t round = 0; round < test::Rounds(); ++round) {
-        Random random(round);
+        Random random(test::Seed() + round);
         const AnsiCodePage& page = AnsiCodePage::Get(random.OneIn(3) ? 1251 : 1252);
         std::string bytes = ValidFile(random, page);
         for (std::size_t i = random.Below(12); i > 0; --i) Mutate(random, bytes);

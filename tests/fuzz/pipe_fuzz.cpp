@@ -93,7 +93,7 @@ void ExpectPlaced(const std::string& answer, const std::wstring& line) {
 }
 
 TEST_F(PipeFuzz, AnswersEveryLineInForm) {
-    Random random(3);
+    Random random(test::Seed() + 3);
     const auto session = Start();
     Output out(nullptr);
     PipeSession pipe(session->program, out);
@@ -116,7 +116,7 @@ TEST_F(PipeFuzz, AnswersEveryLineInForm) {
 }
 
 TEST_F(PipeFuzz, BearsBytes) {
-    Random random(4);
+    Random random(test::Seed() + 4);
     const auto session = Start();
     Output out(nullptr);
     PipeSession pipe(session->program, out);
