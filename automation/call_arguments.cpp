@@ -37,6 +37,7 @@ HRESULT CallArguments::Sort(const DISPPARAMS& parameters, UINT& wrong) {
     if (parameters.cArgs > kCount || parameters.cNamedArgs > parameters.cArgs) {
         return DISP_E_BADPARAMCOUNT;
     }
+    if (parameters.cArgs == 0) return DISP_E_PARAMNOTOPTIONAL;
     for (UINT i = parameters.cNamedArgs; i < parameters.cArgs; ++i) {
         values_[parameters.cArgs - 1 - i] = &parameters.rgvarg[i];
     }
