@@ -68,6 +68,16 @@ bool DelimiterFlagStore::Save() {
     return saved.has_value();
 }
 
+bool DelimiterFlagStore::Change(std::span<const Flag> changed) {
+    DelimiterFlagStore in_file;
+    in_file.Load(settings_file_);
+    for (const Flag& flag : changed) {
+        Set(flag.index, flag.value);
+        in_file.Set(flag.index, flag.value);
+    }
+    return in_file.Save();
+}
+
 int DelimiterFlagStore::Get(int index) const {
     if (index < 1 || index > kCount) return 0;
     return flags_[static_cast<std::size_t>(index - 1)] == '1' ? 1 : 0;

@@ -4,6 +4,7 @@
 #include "platform/text.h"
 
 #include <bitset>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,15 @@ class DelimiterFlagStore {
     /// Writes all 255 flags: those set since Load, the others as the file has them by now. False
     /// when the file could not be written.
     bool Save();
+
+    /// One switch and its new value.
+    struct Flag {
+        int index;
+        int value;
+    };
+    /// Sets these flags here and in the file, where the others stay as another running copy may
+    /// have left them. False when the file could not be written; they are set here all the same.
+    bool Change(std::span<const Flag> changed);
 
     /// `index` 1 to 255; anything else is 0 / ignored.
     int Get(int index) const;
