@@ -46,6 +46,7 @@ struct ProgramState {
     modSect::ProfileFile SettingsProfile() const { return {SettingsFile, CodePage}; }
     Path CustomFolder() const { return DataFolder / "Dictionarys" / "Custom"; }
     Path ResourcesFolder() const { return DataFolder / "Resources"; }
+    Path SoundsFolder() const { return DataFolder / "Sounds"; }
 };
 
 }  // namespace wordhawk

@@ -13,6 +13,8 @@ class Progress {
     virtual void Show(std::wstring_view /*title*/) {}
     virtual void Hide() {}
     virtual void SetCaption(std::wstring_view /*caption*/) {}
+    /// What is being worked on, such as one word; given often and shown now and then.
+    virtual void SetDetail(std::wstring_view /*detail*/) {}
     virtual void SetRange(std::uint64_t /*maximum*/) {}
     virtual void SetPosition(std::uint64_t /*position*/) {}
     /// Lets waiting messages through and says whether the user asked to stop.

@@ -77,6 +77,12 @@ class ImportDisplay {
 
 }  // namespace
 
+std::wstring ImportedName(const Path& source) {
+    const bool is_dictionary = EqualIgnoringCase(TextFromPath(source.extension()), L".dic");
+    return is_dictionary ? TextFromPath(source.filename())
+                         : TextFromPath(source.stem()).append(L".DIC");
+}
+
 Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& flags,
                              const Path& source, std::wstring_view file_name, Progress& progress,
                              UiServices& ui) {
@@ -111,6 +117,7 @@ Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& f
                 known.Take(word);
             }
         }
+        progress.SetDetail(word);
         if (progress.YieldAndAskCancel()) state.StopFlag = true;
     }
     if (entries.empty()) return 0;

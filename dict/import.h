@@ -11,6 +11,10 @@ namespace wordhawk {
 inline constexpr int kFirstShownImportFlag = 249;
 inline constexpr int kFirstSavedImportFlag = 250;
 
+/// File name of the dictionary that an import of `source` makes: its own name, or for a list of
+/// another kind its name with the dictionaries' extension.
+std::wstring ImportedName(const Path& source);
+
 /// Makes the custom dictionary `file_name` from the words of `source` that the user's dictionaries
 /// do not have (as flags 249 and 250 say) and returns the number of words added. An empty or
 /// unreadable source is reported through `ui` and gives 0. Errors: the new file could not be

@@ -65,4 +65,16 @@ Result<bool> InstallShippedDictionaries(const ProgramState& state, const Path& s
     return true;
 }
 
+bool InstallShippedSounds(const ProgramState& state, const Path& shipped) {
+    const Path target = state.SoundsFolder();
+    if (!ListFiles(target, L".wav").empty()) return true;
+    bool any = false;
+    for (const std::wstring& name : ListFiles(shipped, L".wav")) {
+        std::error_code failed;
+        any |= fs::copy_file(shipped / PathFromText(name), target / PathFromText(name),
+                             fs::copy_options::skip_existing, failed);
+    }
+    return any;
+}
+
 }  // namespace wordhawk

@@ -12,4 +12,8 @@ namespace wordhawk {
 /// could not be copied.
 Result<bool> InstallShippedDictionaries(const ProgramState& state, const Path& shipped);
 
+/// Copies the sounds in `shipped` into the sound folder, when that has none yet. True when it has
+/// some afterwards.
+bool InstallShippedSounds(const ProgramState& state, const Path& shipped);
+
 }  // namespace wordhawk

@@ -40,6 +40,17 @@ std::optional<FileChoice> SystemFileDialogs::AskSave(HWND owner, const std::wstr
     return FileChoice{PathFromText(name), filter == 2 ? DocumentKind::Rich : DocumentKind::Plain};
 }
 
+std::optional<Path> SystemFileDialogs::AskFile(HWND owner, const std::wstring& title,
+                                               const std::wstring& filters, const Path& folder) {
+    modCDlg::Request request = MakeRequest(owner, title, filters);
+    const std::wstring start = TextFromPath(folder);
+    request.folder = start;
+    std::wstring name;
+    std::wstring file_title;
+    if (!modCDlg::ShowOpen(request, name, file_title)) return std::nullopt;
+    return PathFromText(name);
+}
+
 int SystemMenuTracker::Track(HWND owner, HMENU menu, POINT screen) {
     return TrackPopupMenu(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0, owner,
                           nullptr);

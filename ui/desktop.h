@@ -29,6 +29,9 @@ class FileDialogs {
                                               const std::wstring& filters) = 0;
     virtual std::optional<FileChoice> AskSave(HWND owner, const std::wstring& title,
                                               const std::wstring& filters, const Path& folder) = 0;
+    /// Any file to be read: a dictionary, a sound. Starts in `folder`.
+    virtual std::optional<Path> AskFile(HWND owner, const std::wstring& title,
+                                        const std::wstring& filters, const Path& folder) = 0;
 };
 
 /// Shows a pop-up menu and waits for the choice.
@@ -55,6 +58,8 @@ class SystemFileDialogs : public FileDialogs {
                                       const std::wstring& filters) override;
     std::optional<FileChoice> AskSave(HWND owner, const std::wstring& title,
                                       const std::wstring& filters, const Path& folder) override;
+    std::optional<Path> AskFile(HWND owner, const std::wstring& title, const std::wstring& filters,
+                                const Path& folder) override;
 };
 class SystemMenuTracker : public MenuTracker {
   public:

@@ -61,15 +61,33 @@ Dialog::~Dialog() {
     DestroyWindow(handle_);
 }
 
+// A loop of our own instead of the system's: every message passes PreTranslate, so that tool tips
+// and keys work in it as in the main window.
 INT_PTR Dialog::ShowModal(HWND owner) {
-    const Look look = WantedLook();
-    RegisterOwnClass(look);
-    const Template layout(look.style, look.extended_style, look.class_name);
+    if (!Create(owner)) return 0;
+    const bool owner_was_enabled = owner != nullptr && IsWindowEnabled(owner) != FALSE;
+    if (owner_was_enabled) EnableWindow(owner, FALSE);
     modal_ = true;
-    const INT_PTR result = DialogBoxIndirectParamW(GetModuleHandleW(nullptr), layout.Get(), owner,
-                                                   Procedure, reinterpret_cast<LPARAM>(this));
+    result_ = 0;
+    ShowWindow(handle_, SW_SHOW);
+    OnShown();
+    MSG message;
+    while (modal_ && handle_ != nullptr) {
+        const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+        if (got <= 0) {
+            // For the loop that started all this.
+            if (got == 0) PostQuitMessage(static_cast<int>(message.wParam));
+            break;
+        }
+        if (PreTranslate(message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
     modal_ = false;
-    return result > 0 ? result : 0;
+    // The owner first: else the system would hand the focus to another program.
+    if (owner_was_enabled) EnableWindow(owner, TRUE);
+    if (handle_ != nullptr) DestroyWindow(handle_);
+    return result_;
 }
 
 bool Dialog::Create(HWND owner) {
@@ -84,11 +102,14 @@ bool Dialog::Create(HWND owner) {
 
 void Dialog::Close(INT_PTR result) {
     if (handle_ == nullptr) return;
-    if (modal_) {
-        EndDialog(handle_, result);
-    } else {
+    if (!modal_) {
         DestroyWindow(handle_);
+        return;
     }
+    result_ = result;
+    modal_ = false;
+    // Wakes the loop, which may wait for a message that never comes.
+    PostMessageW(handle_, WM_NULL, 0, 0);
 }
 
 void Dialog::RegisterOwnClass(const Look& look) const {

@@ -11,7 +11,8 @@ class Dialog : public MessageHandler {
   public:
     ~Dialog() override;
 
-    /// Runs until Close and returns its result; 0 when the dialog could not be made.
+    /// Shows the dialog over its owner, which takes no input meanwhile, and runs until Close;
+    /// returns its result, 0 when the dialog could not be made or the program ends.
     INT_PTR ShowModal(HWND owner);
     /// Makes the dialog hidden, to be shown by the caller. False when the system refuses.
     bool Create(HWND owner);
@@ -43,6 +44,8 @@ class Dialog : public MessageHandler {
     /// The dialog manager has handled a key's message, which may have moved the keyboard away from
     /// `focus_before`.
     virtual void OnKeyHandled(UINT /*message*/, HWND /*focus_before*/) {}
+    /// The dialog has come up for ShowModal.
+    virtual void OnShown() {}
     /// Fonts changed with the monitor's DPI; controls have them already.
     virtual void OnFontsChanged() {}
 
@@ -62,6 +65,7 @@ class Dialog : public MessageHandler {
     FontHandle font_;
     FontHandle bold_font_;
     bool modal_ = false;
+    INT_PTR result_ = 0;
 };
 
 }  // namespace wordhawk

@@ -330,7 +330,12 @@ void Arrange(const layout::Node& node, const RECT& area, const layout::Measure& 
         MapWindowPoints(nullptr, GetParent(placed.control), reinterpret_cast<POINT*>(&bounds), 2);
         return EqualRect(&bounds, &placed.bounds) != FALSE;
     });
-    HDWP batch = BeginDeferWindowPos(static_cast<int>(placements.size()));
+    // The system moves together only what has one parent.
+    const bool together =
+        std::all_of(placements.begin(), placements.end(), [&](const auto& placed) {
+            return GetParent(placed.control) == GetParent(placements.front().control);
+        });
+    HDWP batch = together ? BeginDeferWindowPos(static_cast<int>(placements.size())) : nullptr;
     // Copying what was drawn elsewhere leaves parts of it behind under Wine.
     constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
     for (const layout::Placement& placed : placements) {

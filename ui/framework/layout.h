@@ -75,6 +75,12 @@ NodePtr Buttons(int gap, int columns, std::vector<const Control*> buttons);
 /// A fixed margin around.
 NodePtr Margin(int margin, NodePtr child, int stretch = 0);
 
+/// A panel with what it holds, arranged within it; it takes its room shown or hidden.
+NodePtr Frame(HWND panel, NodePtr inside, int stretch = 0);
+
+/// All in one area, large enough for each: pages of which one is shown at a time.
+NodePtr Stack(std::vector<NodePtr> children, int stretch = 0);
+
 /// Height of a push button and of a text box.
 inline constexpr int kButtonHeight = 25;
 inline constexpr int kFieldHeight = 23;

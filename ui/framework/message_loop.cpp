@@ -1,14 +1,19 @@
 #include "ui/framework/message_loop.h"
 
 namespace wordhawk {
+namespace {
+
+void HandOut(Dialog& form, MSG& message) {
+    if (form.PreTranslate(message)) return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+}  // namespace
 
 int RunMessageLoop(Dialog& form) {
     MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (form.PreTranslate(message)) continue;
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) HandOut(form, message);
     return static_cast<int>(message.wParam);
 }
 
@@ -19,10 +24,20 @@ void RunMessagesUntilClosed(Dialog& form) {
             PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
-        if (form.PreTranslate(message)) continue;
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+        HandOut(form, message);
     }
+}
+
+bool PumpWaitingMessages(Dialog& form) {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return false;
+        }
+        HandOut(form, message);
+    }
+    return true;
 }
 
 }  // namespace wordhawk

@@ -12,4 +12,8 @@ int RunMessageLoop(Dialog& form);
 /// leaves to the loop outside.
 void RunMessagesUntilClosed(Dialog& form);
 
+/// Hands out the messages that wait now. False when the program is asked to end, which the loop
+/// below still gets to know.
+bool PumpWaitingMessages(Dialog& form);
+
 }  // namespace wordhawk

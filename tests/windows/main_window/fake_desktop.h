@@ -59,6 +59,13 @@ class FakeFileDialogs : public FileDialogs {
         folder = start;
         return choice;
     }
+    std::optional<Path> AskFile(HWND, const std::wstring& title, const std::wstring& asked_filters,
+                                const Path& start) override {
+        titles.push_back(title);
+        filters = asked_filters;
+        folder = start;
+        return choice ? std::optional(choice->file) : std::nullopt;
+    }
     std::optional<FileChoice> choice;
     std::vector<std::wstring> titles;
     std::wstring filters;

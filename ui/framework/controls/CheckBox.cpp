@@ -9,4 +9,10 @@ void OptionButton::Create(const Where& where, Group group) {
          BS_AUTORADIOBUTTON | (group == Group::Starts ? WS_GROUP | WS_TABSTOP : 0));
 }
 
+void TabButton::Create(const Where& where, OptionButton::Group group) {
+    Make(where, L"BUTTON",
+         BS_AUTORADIOBUTTON | BS_PUSHLIKE |
+             (group == OptionButton::Group::Starts ? WS_GROUP | WS_TABSTOP : 0));
+}
+
 }  // namespace wordhawk

@@ -24,4 +24,11 @@ class OptionButton : public CheckBox {
     void Create(const Where& where, Group group);
 };
 
+/// One of a row of tabs, of which exactly one is chosen: arrow keys lead from tab to tab.
+class TabButton : public CheckBox {
+  public:
+    TabButton() : CheckBox(L"Label") {}
+    void Create(const Where& where, OptionButton::Group group);
+};
+
 }  // namespace wordhawk

@@ -10,6 +10,7 @@ class Label : public Control {
     enum class Kind {
         Caption,  ///< names the control behind it
         Value,    ///< shows a text as it is: "&" is a character, a long one ends in dots
+        Path,     ///< shows the path of a file, a long one shortened in its middle
         Hidden    ///< not seen: names the control behind it for screen readers
     };
     Label() : Control(L"Label") {}

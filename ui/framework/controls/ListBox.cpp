@@ -2,10 +2,12 @@
 
 namespace wordhawk {
 
-void ListBox::Create(const Where& where) {
+void ListBox::Create(const Where& where) { CreateWithStyle(where, WS_VSCROLL); }
+
+void ListBox::CreateWithStyle(const Where& where, DWORD style) {
     Make(where, L"LISTBOX",
-         WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_HASSTRINGS | LBS_OWNERDRAWFIXED |
-             LBS_NOINTEGRALHEIGHT,
+         WS_TABSTOP | LBS_NOTIFY | LBS_HASSTRINGS | LBS_OWNERDRAWFIXED | LBS_NOINTEGRALHEIGHT |
+             style,
          WS_EX_CLIENTEDGE);
 }
 
@@ -41,6 +43,11 @@ int ListBox::FindExact(std::wstring_view text) const {
     const std::wstring value(text);
     return Index(LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                  reinterpret_cast<LPARAM>(value.c_str()));
+}
+
+int ListBox::FindBeginning(std::wstring_view text) const {
+    const std::wstring value(text);
+    return Index(LB_FINDSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(value.c_str()));
 }
 
 std::optional<int> ListBox::At(POINT point) const {

@@ -27,6 +27,9 @@ class ListBox : public Control {
     /// The first entry equal to `text` without regard to case; -1 when there is none.
     int FindExact(std::wstring_view text) const;
 
+    /// The first entry that begins with `text` without regard to case; -1 when there is none.
+    int FindBeginning(std::wstring_view text) const;
+
     /// -1 for none.
     int Selected() const { return Index(LB_GETCURSEL); }
     /// Does not tell the form. Keeps the entry in view.
@@ -39,6 +42,9 @@ class ListBox : public Control {
 
     std::wstring Caption() const override { return {}; }
     void SetCaption(const std::wstring&) override {}
+
+  protected:
+    void CreateWithStyle(const Where& where, DWORD style);
 };
 
 }  // namespace wordhawk
