@@ -2,7 +2,7 @@
 
 #include "dict/change_file.h"
 #include "dict/dictionary_names.h"
-#include "dict/lines.h"
+#include "dict/word_list.h"
 #include "lang/modLoadRes.h"
 #include "lang/text_ids.h"
 
@@ -100,16 +100,15 @@ Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& f
                        MessageIcon::Exclamation, MessageButtons::Ok);
         return 0;
     }
-    std::vector<std::string_view> lines;
-    ForEachLine(bytes, [&](std::string_view line) { lines.push_back(line); });
+    const std::vector<std::wstring> lines = EntriesOfWordList(bytes, store.Page());
     ImportDisplay display(state, lines.size(), progress);
 
     KnownWords known(store, flags, IsActive(store, target));
     std::vector<std::string> entries;
     for (std::size_t i = 0; i < lines.size() && !state.StopFlag; ++i) {
         display.Step(i + 1);
-        const std::string_view field = lines[i].substr(0, lines[i].find(','));
-        const std::wstring word = Lower(Trim(store.Page().Decode(field)));
+        const std::wstring_view field = std::wstring_view(lines[i]).substr(0, lines[i].find(L','));
+        const std::wstring word = Lower(Trim(field));
         if (word.size() >= kShortestWord && !known.Hold(word)) {
             // A line with a control character in it is no word: it is passed over.
             if (Result<std::string> entry = CheckedEntryLine(word, store.Page())) {

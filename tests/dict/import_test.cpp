@@ -64,6 +64,25 @@ TEST(ImportDictionary, MakesNoFileWhenEveryWordIsKnown) {
     EXPECT_TRUE(import.ui.shown.empty());
 }
 
+TEST(ImportDictionary, TakesListsOfOtherPrograms) {
+    const struct {
+        std::string source;
+        int count;
+        std::string result;
+        const char* reason;
+    } cases[] = {
+        {"Na\xC3\xAFve\nzebra\n", 2, "na\xEFve,78100\r\nzebra,90160\r\n", "UTF-8"},
+        {"\xEF\xBB\xBFgizmo\n", 1, "gizmo,71250\r\n", "a mark is no part of the first word"},
+        {"2\ngizmo/SM\nzebra/S\n", 2, "gizmo,71250\r\nzebra,90160\r\n", "hunspell"},
+        {"gizmo\n\xD0\xB6\xD0\xB6\n", 1, "gizmo,71250\r\n", "what the page lacks stays out"},
+    };
+    for (const auto& c : cases) {
+        Import import;
+        EXPECT_EQ(import.Run(c.source), c.count) << c.reason;
+        EXPECT_EQ(ReadBytes(import.Target()), c.result) << c.reason;
+    }
+}
+
 TEST(ImportDictionary, ReportsAnEmptyOrUnreadableSource) {
     Import import;
     EXPECT_EQ(import.Run(""), 0);

@@ -112,6 +112,8 @@ void frmPreferences::FillDelimiterList(const Preferences& now) {
     for (std::size_t i = 0; i < now.delimiters.size(); ++i) {
         lstCr.SetChecked(static_cast<int>(i), now.delimiters[i]);
     }
+    // Each change above brings its entry into view.
+    lstCr.SetTop(0);
 }
 
 void frmPreferences::SaveDelimiterList(Preferences& chosen) const {
@@ -185,6 +187,7 @@ void frmPreferences::cmdDefaults_Click() {
     for (int i = 0; i < lstCr.Count(); ++i) {
         lstCr.SetChecked(i, standard[static_cast<std::size_t>(i)] == '1');
     }
+    lstCr.SetTop(0);
 }
 
 void frmPreferences::cmdCusDicts_Click() {
@@ -300,7 +303,7 @@ bool frmPreferences::OnKey(const MSG& message) {
 void frmPreferences::OnMeasure() {
     const int height = EntryHeight(Font(), Dpi());
     lstCr.SetItemHeight(height);
-    lstCr.SetColumnWidth(Scaled(116));
+    lstCr.SetColumnWidth(Scaled(132));
     lstDicts.SetItemHeight(height);
     cboLgs.SetItemHeight(height);
     for (const Label* heading : {&lblST, &lblSound, &lblLanguage, &lblDelimiters, &lblDictionary}) {

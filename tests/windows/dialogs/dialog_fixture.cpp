@@ -66,7 +66,7 @@ void DialogTest::Restart() {
     ProgramOptions options;
     options.data_folder = folder_ / L"data";
     options.locale = 1033;
-    options.install_dictionaries = false;
+    options.install_shipped = false;
     program_ = std::make_unique<Program>(options, fakes_.ui);
 }
 

@@ -4,6 +4,8 @@
 #include "tests/support/temp_dir.h"
 #include "tests/windows/main_window/fake_desktop.h"
 #include "ui/framework/FormDialog.h"
+#include "ui/framework/controls/ComboBox.h"
+#include "ui/framework/controls/ListBox.h"
 
 #include <gtest/gtest.h>
 

@@ -46,7 +46,8 @@ TEST_F(EditDictionary, ShowsTheWordsInTheOrderOfTheFile) {
 
 TEST_F(EditDictionary, SearchFindsTheFirstWordWithThatBeginning) {
     std::string bytes = "apple,65140\r\n";
-    for (int i = 100; i < 200; ++i) bytes += "b" + std::to_string(i) + ",66000\r\n";
+    for (int i = 100; i < 200; ++i)
+        bytes.append("b").append(std::to_string(i)).append(",66000\r\n");
     frmEditDict& form = Open(bytes + "zebra,90160\r\nzebu,90100\r\n");
     struct Case {
         const wchar_t* typed;
@@ -161,7 +162,9 @@ TEST_F(EditDictionary, FileThatIsGoneOrChangedMeanwhileLosesNothing) {
 
 TEST_F(EditDictionary, HundredThousandWordsAreAllThere) {
     std::string bytes;
-    for (int i = 0; i < 100'000; ++i) bytes += "word" + std::to_string(100'000 + i) + ",87630\r\n";
+    for (int i = 0; i < 100'000; ++i) {
+        bytes.append("word").append(std::to_string(100'000 + i)).append(",87630\r\n");
+    }
     frmEditDict& form = Open(bytes);
     EXPECT_EQ(form.lstEdit.Count(), 100'000);
     EXPECT_EQ(form.lblCount.Text(), L"100000 - words");

@@ -148,7 +148,9 @@ TEST_F(ImportDialog, CancelKeepsWhatWasImportedSoFar) {
     frmCusDics& form = Open();
     SendMessageW(form.chkHO.Handle(), BM_CLICK, 0, 0);
     std::string lines;
-    for (int i = 0; i < 400'000; ++i) lines += "word" + std::to_string(1'000'000 + i) + "\r\n";
+    for (int i = 0; i < 400'000; ++i) {
+        lines.append("word").append(std::to_string(1'000'000 + i)).append("\r\n");
+    }
     fakes_.files.choice = FileChoice{Source(L"long.dic", lines), DocumentKind::Plain};
     // Comes while the import lets messages through.
     When(L"frmCusDics", [&](HWND) {

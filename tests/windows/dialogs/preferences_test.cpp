@@ -89,6 +89,7 @@ TEST_F(PreferencesDialog, OkWritesEverythingAndCancelNothingButTheTab) {
             case End::Escape: Press(VK_ESCAPE); break;
             case End::CloseButton: SendMessageW(form.Handle(), WM_CLOSE, 0, 0); break;
         }
+        Pump();
         EXPECT_FALSE(IsOpen());
         EXPECT_EQ(Stored(L"PrefTab"), L"1");
         const bool ok = end == End::Ok;
@@ -232,13 +233,13 @@ TEST_F(PreferencesDialog, LanguageWhoseFileIsGoneFallsBackAndSaysSo) {
     frmPreferences& form = Open();
     std::filesystem::remove_all(Data(L"Resources") / "1036");
     const int beeps = fakes_.ui.beeps;
-    Choose(form.cboLgs, 0);
-    EXPECT_EQ(form.cboLgs.Item(0), L"French");
+    Choose(form.cboLgs, 1);
+    EXPECT_EQ(form.cboLgs.Item(1), L"French");
     EXPECT_TRUE(form.lblDis[1].Visible());
     EXPECT_EQ(fakes_.ui.beeps, beeps + 1);
     EXPECT_EQ(Stored(L"Language"), L"1033");
     EXPECT_EQ(form.Caption(), L"Preferences");
-    Choose(form.cboLgs, 1);
+    Choose(form.cboLgs, 0);
     EXPECT_FALSE(form.lblDis[1].Visible());
 }
 
