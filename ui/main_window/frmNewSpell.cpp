@@ -17,7 +17,6 @@
 #include <richedit.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace wordhawk {
 
@@ -226,15 +225,6 @@ long frmNewSpell::SpellCheck(SpellCheckArguments& arguments) {
     return cSpellit(program_, check_).SpellCheck(arguments);
 }
 
-void frmNewSpell::TellOfUnreadable() {
-    if (const auto failure = std::exchange(program_.install_failure, std::nullopt))
-        commands_.ShowError(text_id::kCannotInstall, *failure);
-    const std::vector<Error>& unreadable = program_.dictionaries.Unreadable();
-    if (unreadable_told_ == unreadable.size()) return;
-    unreadable_told_ = unreadable.size();
-    commands_.ShowError(text_id::kCannotReadDictionary, unreadable.back());
-}
-
 void frmNewSpell::CheckDocument() {
     const HWND focus_before = GetFocus();
     SpellCheckArguments arguments = check_.OwnArguments();
@@ -372,61 +362,6 @@ void frmNewSpell::cboDicts_Click() {
 void frmNewSpell::tmrBye_Timer() {
     tmrBye_.SetEnabled(handle_, false);
     Unload();
-}
-
-void frmNewSpell::Unload() {
-    if (handle_ == nullptr) return;
-    if (running_ != nullptr) {
-        // What runs still works on this window; it ends first.
-        close_when_done_ = true;
-        running_->Cancel();
-        return;
-    }
-    if (!Form_QueryUnload()) return;
-    check_.Closing();
-    if (handle_ == nullptr) return;
-    Form_Unload();
-    Close(0);
-    if (on_unloaded) on_unloaded();
-}
-
-bool frmNewSpell::Form_QueryUnload() {
-    using Questions = DocumentFiles::Questions;
-    commands_.recent.SaveRecentChanges(program_.state.SettingsProfile());
-    const bool failed_before = save_back_failed_;
-    const bool saved_elsewhere = failed_before && !document.HasUnsavedText();
-    const auto questions = session_ends_ ? Questions::AnsweredNo : Questions::Asked;
-    if (!saved_elsewhere && !files_.SaveBack(questions) && !session_ends_) {
-        // Once, the window stays, so that the text can be saved elsewhere.
-        save_back_failed_ = true;
-        if (!failed_before) {
-            cmdSaveAs.SetVisible(true);
-            cmdSaveAs.SetEnabled(true);
-            Form_Resize();
-            return false;
-        }
-    }
-    // A check that is cut short ends here, and its text is handed back.
-    if (!session_ends_ && !commands_.session.Words().empty()) files_.SetClipboard();
-    return true;
-}
-
-void frmNewSpell::Form_Unload() {
-    files_.KeepUnsaved();
-    geometry_.Save(handle_, MeasureNow());
-    suggestions_.SaveSliders();
-    menus_.mnuCustD.RemoveFrom(1);
-    // What another copy of the program put on the list meanwhile stays there.
-    modRegs::MergeCustomDictionaryList(program_.state, cboDicts.Texts(),
-                                       program_.settings.CustomDictionaries);
-    if (shared_.instance == this) shared_.instance = nullptr;
-    word_pointer_.Remove();
-    ClearFormTexts(*this);
-}
-
-bool frmNewSpell::OnClose() {
-    Unload();
-    return true;
 }
 
 }  // namespace wordhawk
