@@ -191,7 +191,11 @@ std::wstring LineEndMemory::Restore(std::wstring_view edited) const {
         if (i + 1 == after.size()) break;
         // The last line of all ended in nothing.
         const bool known = match[i] < ends_.size();
-        result += Characters(known ? ends_[match[i]] : most_used_);
+        LineEnds end = known ? ends_[match[i]] : most_used_;
+        // Behind a CR, an empty line that ends in LF would become a part of that end.
+        const bool would_join = end == LineEnds::Lf && !result.empty() && result.back() == L'\r';
+        if (would_join) end = LineEnds::CrLf;
+        result += Characters(end);
     }
     return result;
 }

@@ -57,8 +57,8 @@ TEST(CommandFile, NameIsMadeAbsoluteByTheFolderOfThatMoment) {
     const Path before = std::filesystem::current_path();
     std::filesystem::current_path(folder.Folder());
     const std::wstring name = AbsoluteName(L"note.txt");
-    test::WriteBytes("note.txt", "text");
     std::filesystem::current_path(before);
+    test::WriteBytes(folder / L"note.txt", "text");
     EXPECT_TRUE(PathFromText(name).is_absolute());
     EXPECT_EQ(test::ReadBytes(PathFromText(name)), "text");
     EXPECT_EQ(AbsoluteName(TextFromPath(folder / L"a.txt")), TextFromPath(folder / L"a.txt"));

@@ -31,6 +31,7 @@ TEST(LineEndMemory, GivesEachLineItsOwnEnd) {
         {"added here, corrected there", L"a\nb\r\nc\nd\r\ne\nf", L"a\r1\rb\rcc\rd\re\rf",
          L"a\n1\nb\r\ncc\nd\r\ne\nf"},
         {"lines that are all alike", L"\n\r\n\n\r\n", L"\r\r\r\r\r", L"\n\r\n\n\r\n\r\n"},
+        {"an empty line between CR and LF", L"a\rb\nc\r\n", L"a\r\rc\r", L"a\r\r\nc\r\n"},
         {"one kind for all", L"a\nb\n", L"a\rb\r\nc\n", L"a\nb\nc\n"},
         {"all gone", L"a\nb\r\n", L"", L""},
     };
