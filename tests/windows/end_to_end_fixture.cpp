@@ -186,9 +186,12 @@ void EndToEnd::AnswerFileDialog(const wchar_t* title, const Path& path) {
 }
 
 void EndToEnd::WaitForBox(const wchar_t* title, HWND& box) {
-    ASSERT_TRUE(WaitUntil([&] { return (box = FindWindowW(L"#32770", title)) != nullptr; }))
-        << "no box came up";
-    EXPECT_FALSE(IsWindowEnabled(Window())) << "keys would change the document behind the box";
+    // A box still in the making that is asked to come to the front never does. Once it shows, keys
+    // must not reach the document behind it.
+    ASSERT_TRUE(WaitUntil([&] {
+        box = FindWindowW(L"#32770", title);
+        return box != nullptr && IsWindowVisible(box) && !IsWindowEnabled(Window());
+    })) << "no box came up";
     WaitForKeyboard(box);
 }
 
