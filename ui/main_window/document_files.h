@@ -48,6 +48,9 @@ class DocumentFiles {
     /// False: it is not there, and the user knows.
     bool SaveBack(Questions questions = Questions::Asked);
 
+    /// The user did not want the text written as it is now.
+    bool Declined() const { return origin_ && origin_->declined == parts_.document.Revision(); }
+
     /// Puts a text that would be lost into the folder of saved texts.
     void KeepUnsaved();
     /// Keeps a copy, from time to time, of a text that is in no file, in case the program ends

@@ -110,8 +110,8 @@ bool DocumentFiles::OfferRecovered() {
         if (!bytes) return false;
         DocumentText text;
         if (!rich) text = DecodeDocument(*bytes, *state.CodePage);
-        const std::wstring question = Filled(LoadResText(state, text_id::kAskRecover),
-                                             {Beginning(rich ? RtfToText(*bytes) : text.text)});
+        const std::wstring question = LoadResText(state, text_id::kAskRecover) + L"\r\n\r\n" +
+                                      Beginning(rich ? RtfToText(*bytes) : text.text);
         if (parts_.program.ui.ShowMessage(question, FromUtf8(WORDHAWK_TITLE), MessageIcon::Question,
                                           MessageButtons::YesNo) == Answer::Yes) {
             if (rich) {

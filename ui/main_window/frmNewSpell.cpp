@@ -159,8 +159,8 @@ void frmNewSpell::LoadSettings() {
     cmdOpen.SetVisible(settings.OpenSave);
     cmdOpen.SetEnabled(settings.OpenSave);
     // A text that could not be written back must get out in some way.
-    cmdSaveAs.SetVisible(settings.OpenSave || save_back_failed_);
-    cmdSaveAs.SetEnabled(settings.OpenSave || save_back_failed_);
+    cmdSaveAs.SetVisible(settings.OpenSave || save_as_offered_);
+    cmdSaveAs.SetEnabled(settings.OpenSave || save_as_offered_);
     menus_.CheckSearchMode(settings.SortBy);
     ShowCustomDictionaries();
     Form_Resize();
@@ -286,6 +286,7 @@ void frmNewSpell::Finished(const SessionStep& step) {
 
 void frmNewSpell::HandOver(CompletionNotice notice, bool close) {
     const bool saved = files_.SaveBack();
+    if (!saved) OfferSaveAs();
     files_.SetClipboard();
     commands_.Announce(notice);
     // The box of the announcement lets messages through, and one may have closed the window. A text

@@ -156,6 +156,8 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     static constexpr UINT kRecoveryMilliseconds = 1000;
 
     bool Form_QueryUnload();
+    /// The text could not be written back, and must get out in some other way.
+    void OfferSaveAs();
     void Form_Unload();
 
     bool OnButton(int id);
@@ -212,6 +214,7 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     bool loaded_ = false;
     bool close_when_done_ = false;
     bool save_back_failed_ = false;
+    bool save_as_offered_ = false;
     bool session_ends_ = false;
     std::size_t unreadable_told_ = 0;
 };

@@ -1,4 +1,5 @@
 // How the main window closes: what is saved, handed back and kept.
+#include "lang/apply_language.h"
 #include "lang/text_ids.h"
 #include "ui/main_window/frmNewSpell.h"
 
@@ -24,21 +25,25 @@ bool frmNewSpell::Form_QueryUnload() {
     using Questions = DocumentFiles::Questions;
     commands_.recent.SaveRecentChanges(program_.state.SettingsProfile());
     const bool failed_before = save_back_failed_;
-    const bool saved_elsewhere = failed_before && !document.HasUnsavedText();
+    // In another file, or, if the user did not want it written, among the unsaved texts.
+    const bool goes_elsewhere = files_.Declined() || (failed_before && !document.HasUnsavedText());
     const auto questions = session_ends_ ? Questions::AnsweredNo : Questions::Asked;
-    if (!saved_elsewhere && !files_.SaveBack(questions) && !session_ends_) {
+    if (!goes_elsewhere && !files_.SaveBack(questions) && !session_ends_) {
         // Once, the window stays, so that the text can be saved elsewhere.
         save_back_failed_ = true;
-        if (!failed_before) {
-            cmdSaveAs.SetVisible(true);
-            cmdSaveAs.SetEnabled(true);
-            Form_Resize();
-            return false;
-        }
+        OfferSaveAs();
+        if (!failed_before) return false;
     }
     // A check that is cut short ends here, and its text is handed back.
     if (!session_ends_ && !commands_.session.Words().empty()) files_.SetClipboard();
     return true;
+}
+
+void frmNewSpell::OfferSaveAs() {
+    save_as_offered_ = true;
+    cmdSaveAs.SetVisible(true);
+    cmdSaveAs.SetEnabled(true);
+    Form_Resize();
 }
 
 void frmNewSpell::Form_Unload() {
