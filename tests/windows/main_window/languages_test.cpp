@@ -1,53 +1,11 @@
 #include "platform/folders.h"
+#include "tests/windows/captions.h"
 #include "tests/windows/main_window/main_window_fixture.h"
-
-#include <commctrl.h>
 
 #include <map>
 
 namespace wordhawk::test {
 namespace {
-
-/// The letter that "&" marks, in upper case; 0 when none is marked.
-wchar_t AccessKey(std::wstring_view text) {
-    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != L'&') continue;
-        if (text[i + 1] != L'&') return Upper(text.substr(i + 1, 1))[0];
-        ++i;
-    }
-    return 0;
-}
-
-std::wstring ClassOf(HWND control) {
-    wchar_t name[64]{};
-    GetClassNameW(control, name, 64);
-    return name;
-}
-
-std::wstring TextOf(HWND control) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(control)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
-/// The buttons and labels of a window that can be seen.
-std::vector<HWND> Captions(HWND window) {
-    std::vector<HWND> found;
-    EnumChildWindows(
-        window,
-        [](HWND control, LPARAM list) -> BOOL {
-            const std::wstring type = ClassOf(control);
-            const bool caption =
-                EqualIgnoringCase(type, WC_BUTTONW) || EqualIgnoringCase(type, WC_STATICW);
-            if (caption && IsWindowVisible(control)) {
-                reinterpret_cast<std::vector<HWND>*>(list)->push_back(control);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found;
-}
 
 int TextWidth(HWND control) {
     const HDC screen = GetDC(control);
