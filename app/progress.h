@@ -17,6 +17,9 @@ class Progress {
     virtual void SetDetail(std::wstring_view /*detail*/) {}
     virtual void SetRange(std::uint64_t /*maximum*/) {}
     virtual void SetPosition(std::uint64_t /*position*/) {}
+    /// Whether caption and position are wanted now: work of many small steps tells of those steps
+    /// only for which it is asked here.
+    virtual bool IsDue() { return false; }
     /// Lets waiting messages through and says whether the user asked to stop.
     virtual bool YieldAndAskCancel() { return false; }
 };

@@ -2,33 +2,39 @@
 
 #include "engine/check/text_checker.h"
 #include "lang/modLoadRes.h"
+#include "lang/text_ids.h"
 
 #include <algorithm>
 
 namespace wordhawk {
 namespace {
 
-// Lines are handed over in groups of about this many units: often enough for a cancel to be felt at
-// once, seldom enough not to slow the pass.
-constexpr std::size_t kGroupUnits = 32 * 1024;
+// Lines are handed over together until the display wants to be told, or there are so many units.
+constexpr std::size_t kMostGroupUnits = 32 * 1024;
 
-/// End of the group of whole lines that starts at `from`.
-std::size_t EndOfGroup(std::wstring_view text, std::size_t from) {
-    if (text.size() - from <= kGroupUnits) return text.size();
-    const std::size_t line_end = text.find_first_of(L"\r\n", from + kGroupUnits);
-    if (line_end == std::wstring_view::npos) return text.size();
-    return line_end + 1;
+/// Behind the line break at `at`: CR, LF, or CR LF as one.
+std::size_t BehindLineBreak(std::wstring_view text, std::size_t at) {
+    const bool pair = text[at] == L'\r' && at + 1 < text.size() && text[at + 1] == L'\n';
+    return at + (pair ? 2 : 1);
 }
 
-/// Line breaks in `text`: CR, LF, or CR LF as one. `after_cr` carries a CR at the end of one piece
-/// to the next.
-std::size_t CountLineBreaks(std::wstring_view text, bool& after_cr) {
-    std::size_t breaks = 0;
-    for (const wchar_t c : text) {
-        if (c == L'\r' || (c == L'\n' && !after_cr)) ++breaks;
-        after_cr = c == L'\r';
+/// Start of the line behind the one at `from`, the text's end when there is none.
+std::size_t NextLine(std::wstring_view text, std::size_t from) {
+    while (from < text.size() && text[from] != L'\r' && text[from] != L'\n') ++from;
+    return from < text.size() ? BehindLineBreak(text, from) : from;
+}
+
+std::size_t CountLines(std::wstring_view text) {
+    std::size_t lines = 1;
+    for (std::size_t at = 0; at < text.size();) {
+        if (text[at] == L'\r' || text[at] == L'\n') {
+            ++lines;
+            at = BehindLineBreak(text, at);
+        } else {
+            ++at;
+        }
     }
-    return breaks;
+    return lines;
 }
 
 }  // namespace
@@ -37,25 +43,28 @@ CheckResult CheckText(std::wstring_view text, DictionaryStore& store, const Spli
                       Progress& progress) {
     bool& cancel = store.State().CancelFlag;
     cancel = false;
-    bool after_cr = false;
-    const std::size_t line_count = text.empty() ? 0 : CountLineBreaks(text, after_cr) + 1;
-    after_cr = false;
-    std::size_t line = 1;
+    const std::size_t line_count = text.empty() ? 0 : CountLines(text);
+    progress.SetCaption(
+        modLoadRes::LoadResText(store.State(), text_id::kSplittingWords, {}, L"..."));
     progress.SetRange(line_count);
 
     TextChecker checker(store, rules);
-    for (std::size_t from = 0; from < text.size();) {
+    std::size_t fed = 0;
+    std::size_t line = 1;
+    for (std::size_t at = 0; at < text.size(); at = NextLine(text, at), ++line) {
+        const bool due = progress.IsDue();
+        if (due || at - fed >= kMostGroupUnits) {
+            checker.Feed(text.substr(fed, at - fed), [](const UnknownWord&) {});
+            fed = at;
+        }
+        if (!due) continue;
         progress.SetCaption(L"Checking line (" + std::to_wstring(line) + L" of " +
                             std::to_wstring(line_count) + L")");
         progress.SetPosition(line);
         if (progress.YieldAndAskCancel()) cancel = true;
-        if (cancel) break;
-        const std::size_t end = EndOfGroup(text, from);
-        const std::wstring_view group = text.substr(from, end - from);
-        checker.Feed(group, [](const UnknownWord&) {});
-        line += CountLineBreaks(group, after_cr);
-        from = end;
+        if (cancel) return {checker.Words(), cancel};
     }
+    checker.Feed(text.substr(fed), [](const UnknownWord&) {});
     return {checker.Words(), cancel};
 }
 

@@ -41,6 +41,7 @@ class FakeProgress : public Progress {
     void SetCaption(std::wstring_view caption) override { captions.emplace_back(caption); }
     void SetRange(std::uint64_t maximum) override { range = maximum; }
     void SetPosition(std::uint64_t new_position) override { position = new_position; }
+    bool IsDue() override { return true; }
     bool YieldAndAskCancel() override { return ++yields == cancel_at_; }
 
     std::vector<std::wstring> titles;

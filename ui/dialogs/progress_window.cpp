@@ -135,6 +135,8 @@ void ProgressWindow::Update() {
     UpdateWindow(box_->Handle());
 }
 
+bool ProgressWindow::IsDue() { return !running_ || GetTickCount64() - last_yield_ >= kYieldEvery; }
+
 bool ProgressWindow::YieldAndAskCancel() {
     if (!running_) Begin();
     const std::uint64_t now = GetTickCount64();

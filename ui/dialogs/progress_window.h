@@ -31,6 +31,7 @@ class ProgressWindow : public Progress {
     void SetCaption(std::wstring_view caption) override { caption_ = caption; }
     void SetRange(std::uint64_t maximum) override { maximum_ = maximum; }
     void SetPosition(std::uint64_t position) override { position_ = position; }
+    bool IsDue() override;
     bool YieldAndAskCancel() override;
 
     /// As a click on Cancel.

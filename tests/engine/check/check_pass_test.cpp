@@ -72,11 +72,21 @@ TEST_F(CheckPass, CancelKeepsTheWordsFoundSoFar) {
     EXPECT_TRUE(result.cancelled);
     EXPECT_TRUE(data_.state.CancelFlag);
     EXPECT_EQ(result.words, Words{L"zat"});
-    EXPECT_EQ(progress.captions.front(), L"Checking line (1 of 20001)");
+    EXPECT_EQ(progress.captions,
+              (Words{L"Splitting words...", L"Checking line (1 of 20001)",
+                     L"Checking line (2 of 20001)", L"Checking line (3 of 20001)"}));
 
     test::FakeProgress patient;
     EXPECT_EQ(CheckText(text, data_.store, rules_, patient).words, (Words{L"zat", L"last"}));
     EXPECT_FALSE(data_.state.CancelFlag) << "cleared at the start of a pass";
+}
+
+TEST_F(CheckPass, TellsOfEveryLineThatTheDisplayAsksFor) {
+    test::FakeProgress progress;
+    CheckText(L"one\r\ntwo\rthree", data_.store, rules_, progress);
+    EXPECT_EQ(progress.captions, (Words{L"Splitting words...", L"Checking line (1 of 3)",
+                                        L"Checking line (2 of 3)", L"Checking line (3 of 3)"}));
+    EXPECT_EQ(progress.position, 3u);
 }
 
 TEST_F(CheckPass, OneVeryLongLineIsChecked) {
