@@ -14,9 +14,23 @@ int Fail(const std::string& line) {
     return kExitFailed;
 }
 
+/// "2 known already, 1 too short": why lines were left out; empty when none was.
+std::string LeftOut(const ImportReport& report, const AnsiCodePage& page) {
+    std::string why;
+    const auto add = [&why](int count, const std::string& reason) {
+        if (count > 0) why += (why.empty() ? "" : ", ") + std::to_string(count) + ' ' + reason;
+    };
+    add(report.known, "known already");
+    add(report.too_short, "too short");
+    add(report.unfit,
+        "that a dictionary in code page " + std::to_string(page.Number()) + " cannot hold");
+    return why;
+}
+
 }  // namespace
 
-int RunImport(const GlobalOptions& global, const std::string& file) {
+int RunImport(const GlobalOptions& global, const ImportOptions& options) {
+    const std::string& file = options.file;
     Session session(global);
     Program& program = session.program;
     const Path source = PathFromArgument(file);
@@ -33,12 +47,17 @@ int RunImport(const GlobalOptions& global, const std::string& file) {
         }
     }
     Progress no_progress;
-    const auto added = ImportDictionary(program.dictionaries, program.flags, source, *name,
-                                        no_progress, session.ui);
-    if (!added) return Fail(MessageLine(added.error()));
+    const auto report =
+        ImportWordList(program.dictionaries, program.flags, source, *name, no_progress, session.ui);
+    if (!report) return Fail(MessageLine(report.error()));
     Output out(stdout);
-    out << *added << '\n';
+    out << report->added << '\n';
     out.Flush();
+    if (!options.quiet) {
+        const std::string why = LeftOut(*report, program.dictionaries.Page());
+        if (!why.empty()) ShowMessageLine(MessageLine(file, "left out: " + why));
+        if (report->added > 0) TellWhenNotSearched(program, global, *name);
+    }
     return out.Failed() ? kExitFailed : kExitFine;
 }
 

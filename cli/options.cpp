@@ -136,6 +136,7 @@ void AddDictionaryCommands(CLI::App& app, Options& options) {
                     "Into this custom dictionary (made when missing)")
         ->type_name("NAME")
         ->excludes(to_main);
+    add->add_flag("-q,--quiet", options.add.quiet, "Say nothing about what was done");
     add->footer(
         "Without --main or --custom the words go into the active custom dictionary.\n\nExamples:\n"
         "  wordhawk-cli add Wordhawk spellchecker\n  wordhawk-cli add --custom names.dic "
@@ -151,7 +152,10 @@ void AddDictionaryCommands(CLI::App& app, Options& options) {
 
     CLI::App* const import =
         AddCommand(app, "import", "Make a custom dictionary of a file's new words");
-    import->add_option("FILE", options.import_file, "Word list, one word a line")
+    import->add_flag("-q,--quiet", options.import.quiet, "Say nothing about what was done");
+    import
+        ->add_option("FILE", options.import.file,
+                     "Word list, one word a line, UTF-8, UTF-16 or ANSI")
         ->type_name("")
         ->required();
     import->footer(

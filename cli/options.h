@@ -46,6 +46,13 @@ struct AddOptions {
     bool to_main = false;
     /// Name of a custom dictionary; empty: the active one.
     std::string custom;
+    /// Say nothing about what was done.
+    bool quiet = false;
+};
+
+struct ImportOptions {
+    std::string file;
+    bool quiet = false;
 };
 
 struct BuildOptionsOfCommand {
@@ -76,7 +83,7 @@ struct Options {
     WordOptions words;  ///< of suggest, key, remove
     ExplainOptions explain;
     AddOptions add;
-    std::string import_file;
+    ImportOptions import;
     std::string activate;  ///< of dictionaries
     BuildOptionsOfCommand build;
 };

@@ -2,6 +2,7 @@
 
 #include "cli/console.h"
 #include "cli/output.h"
+#include "lang/whole_number.h"
 
 #include <algorithm>
 
@@ -18,6 +19,28 @@ ProgramOptions ToProgramOptions(const GlobalOptions& options) {
     }
     program.flag_overrides = options.flags;
     return program;
+}
+
+/// Whether the setting is a number: a text is kept as it is.
+bool IsNumber(const modRegs::SettingRow& row) {
+    Settings settings;
+    row.assign(settings, L"x");
+    return row.text(settings) != L"x";
+}
+
+/// The message about a value that the setting cannot have, or nothing.
+std::optional<std::string> WrongValue(const modRegs::SettingRow& row, const std::string& value) {
+    const bool language = row.key == L"Language";
+    if (!language && !IsNumber(row)) return std::nullopt;
+    const std::string beginning = "--set: " + ToUtf8(row.key);
+    const auto number = WholeNumber(FromUtf8(value));
+    if (!number) return beginning + " takes a number, not " + value;
+    Settings settings;
+    row.assign(settings, FromUtf8(value));
+    const bool fits =
+        language ? *number >= 1 && *number <= 65535 : NumberOrZero(row.text(settings)) == *number;
+    if (!fits) return beginning + " cannot be " + value;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -42,7 +65,10 @@ Session::Session(const GlobalOptions& options) : program(ToProgramOptions(option
 
 std::optional<std::string> WrongOverride(const GlobalOptions& options) {
     for (const auto& [key, value] : options.settings) {
-        if (modRegs::FindRow(FromUtf8(key)) != nullptr) continue;
+        if (const modRegs::SettingRow* const row = modRegs::FindRow(FromUtf8(key))) {
+            if (auto wrong = WrongValue(*row, value)) return wrong;
+            continue;
+        }
         std::string known;
         for (const auto& row : modRegs::Rows())
             known += (known.empty() ? "" : ", ") + ToUtf8(row.key);
@@ -91,10 +117,30 @@ int FinishedWith(int exit_code, const DictionaryStore& store) {
 }
 
 std::string NoDictionariesLine(const Program& program) {
-    return MessageLine(PathForMessage(program.state.LanguageDictFolder),
-                       "no dictionary is installed for language " +
-                           ToUtf8(program.state.LanguageId) +
-                           "; choose another with --locale, or make one with build-dictionary");
+    const ProgramState& state = program.state;
+    if (!IsFolder(state.DataFolder))
+        return MessageLine(PathForMessage(state.DataFolder), "the data folder cannot be made");
+    return MessageLine(PathForMessage(state.LanguageDictFolder),
+                       "no dictionary is installed for language " + ToUtf8(state.LanguageId) +
+                           "; choose another with --set Language=N, or make one with "
+                           "build-dictionary");
+}
+
+void TellWhenNotSearched(const Program& program, const GlobalOptions& options,
+                         std::wstring_view dictionary) {
+    const std::vector<std::wstring>& searched = program.settings.CustomDictionaries;
+    const auto is_it = [&](const std::wstring& name) {
+        return EqualIgnoringCase(name, dictionary);
+    };
+    if (std::any_of(searched.begin(), searched.end(), is_it)) return;
+    const std::string name = ToUtf8(dictionary);
+    const auto quoted = [](const std::string& text) {
+        return text.find(' ') == std::string::npos ? text : '"' + text + '"';
+    };
+    std::string command = "wordhawk-cli ";
+    if (!options.data_folder.empty()) command += "--data " + quoted(options.data_folder) + ' ';
+    ShowMessageLine(MessageLine(name, "is not searched yet; for that: " + command +
+                                          "dictionaries --activate " + quoted(name)));
 }
 
 }  // namespace wordhawk

@@ -41,4 +41,8 @@ int FinishedWith(int exit_code, const DictionaryStore& store);
 /// The line that says that there are none.
 std::string NoDictionariesLine(const Program& program);
 
+/// Says on stderr that a custom dictionary is not searched and how it will be; nothing when it is.
+void TellWhenNotSearched(const Program& program, const GlobalOptions& options,
+                         std::wstring_view dictionary);
+
 }  // namespace wordhawk

@@ -4,6 +4,7 @@
 #include "cli/word_input.h"
 #include "dict/custom_words.h"
 #include "dict/dictionary_names.h"
+#include "dict/entry_line.h"
 
 #include <algorithm>
 
@@ -13,6 +14,34 @@ namespace {
 int Fail(const std::string& line) {
     ShowMessageLine(line);
     return kExitFailed;
+}
+
+/// Words that their files hold already, and the others.
+struct AddedWords {
+    std::vector<std::wstring> added;
+    std::vector<std::wstring> there;
+};
+
+AddedWords SortOut(DictionaryStore& store, const std::vector<std::wstring>& words, AddTarget target,
+                   Path path) {
+    AddedWords result;
+    for (const std::wstring& word : words) {
+        const std::string bytes =
+            ReadWholeFile(AdditionFile(store, word, target, path)).value_or(std::string());
+        const bool there =
+            dictionary_edit::HasEntryBelowFirstLine(bytes, EntryLine(word, store.Page()));
+        (there ? result.there : result.added).push_back(word);
+    }
+    return result;
+}
+
+/// "hello, hawk", or how many there are when they are many.
+std::string Listed(const std::vector<std::wstring>& words) {
+    constexpr std::size_t kMostNamed = 5;
+    if (words.size() > kMostNamed) return std::to_string(words.size()) + " words";
+    std::string text;
+    for (const std::wstring& word : words) text += (text.empty() ? "" : ", ") + ToUtf8(word);
+    return text;
 }
 
 }  // namespace
@@ -35,9 +64,21 @@ int RunAdd(const GlobalOptions& global, const AddOptions& options) {
         target = AddTarget::ExplicitFile;
         path = store.CustomPath(*name);
     }
+    const AddedWords words_of_file = SortOut(store, words, target, path);
     Progress no_progress;
     const auto added = AddWordsToDictionary(store, words, target, path, no_progress);
     if (!added) return Fail(MessageLine(added.error()));
+    if (options.quiet) return kExitFine;
+    if (target == AddTarget::ActiveCustom) path = store.ActiveCustomPath();
+    const std::wstring name = TextFromPath(path.filename());
+    const std::string where = target == AddTarget::Main
+                                  ? "main dictionary " + ToUtf8(session.program.state.LanguageId)
+                                  : ToUtf8(name);
+    if (!words_of_file.added.empty())
+        ShowMessageLine(MessageLine(where, "added " + Listed(words_of_file.added)));
+    if (!words_of_file.there.empty())
+        ShowMessageLine(MessageLine(where, "holds " + Listed(words_of_file.there) + " already"));
+    if (target != AddTarget::Main) TellWhenNotSearched(session.program, global, name);
     return kExitFine;
 }
 

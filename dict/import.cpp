@@ -86,6 +86,13 @@ std::wstring ImportedName(const Path& source) {
 Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& flags,
                              const Path& source, std::wstring_view file_name, Progress& progress,
                              UiServices& ui) {
+    return ImportWordList(store, flags, source, file_name, progress, ui)
+        .map([](const ImportReport& report) { return report.added; });
+}
+
+Result<ImportReport> ImportWordList(DictionaryStore& store, const DelimiterFlagStore& flags,
+                                    const Path& source, std::wstring_view file_name,
+                                    Progress& progress, UiServices& ui) {
     const Hourglass busy(ui);
     ProgramState& state = store.State();
     state.StopFlag = false;
@@ -98,28 +105,32 @@ Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& f
         ui.ShowMessage(modLoadRes::LoadResText(state, text_id::kHoldsNoWords),
                        modLoadRes::LoadResText(state, text_id::kDictionaryIsEmpty),
                        MessageIcon::Exclamation, MessageButtons::Ok);
-        return 0;
+        return ImportReport();
     }
     const std::vector<std::wstring> lines = EntriesOfWordList(bytes, store.Page());
     ImportDisplay display(state, lines.size(), progress);
 
     KnownWords known(store, flags, IsActive(store, target));
+    ImportReport report;
     std::vector<std::string> entries;
     for (std::size_t i = 0; i < lines.size() && !state.StopFlag; ++i) {
         display.Step(i + 1);
         const std::wstring_view field = std::wstring_view(lines[i]).substr(0, lines[i].find(L','));
         const std::wstring word = Lower(Trim(field));
-        if (word.size() >= kShortestWord && !known.Hold(word)) {
-            // A line with a control character in it is no word: it is passed over.
-            if (Result<std::string> entry = CheckedEntryLine(word, store.Page())) {
-                entries.push_back(std::move(*entry));
-                known.Take(word);
-            }
+        if (word.size() < kShortestWord) {
+            if (!lines[i].empty()) ++report.too_short;
+        } else if (known.Hold(word)) {
+            ++report.known;
+        } else if (Result<std::string> entry = CheckedEntryLine(word, store.Page())) {
+            entries.push_back(std::move(*entry));
+            known.Take(word);
+        } else {
+            ++report.unfit;  // a control character, or one that the page lacks
         }
         progress.SetDetail(word);
         if (progress.YieldAndAskCancel()) state.StopFlag = true;
     }
-    if (entries.empty()) return 0;
+    if (entries.empty()) return report;
 
     // One rewrite gives what a rewrite after each word would: the words are sorted in as if it
     // were.
@@ -129,7 +140,8 @@ Result<int> ImportDictionary(DictionaryStore& store, const DelimiterFlagStore& f
     });
     if (!written) return tl::unexpected(written.error());
     if (*written) store.ReloadCustomDictionaries();
-    return static_cast<int>(entries.size());
+    report.added = static_cast<int>(entries.size());
+    return report;
 }
 
 }  // namespace wordhawk

@@ -72,6 +72,18 @@ class Add(CliTest):
         self.assertEqual(self.run_cli("check", stdin="HAWKs Hawk Wordhawk éclair".encode(), code=1)[:16],
                          "<stdin>:1:1: HAW")
 
+    def test_tells_what_it_added_where(self):
+        cases = [(["hawk", "Zeta"], ["CUSTOM.DIC: added hawk, Zeta"]),
+                 (["zeta", "eta"], ["CUSTOM.DIC: added eta", "CUSTOM.DIC: holds zeta already"]),
+                 (["--main", "hawks"], ["main dictionary 1033: added hawks"]),
+                 (["-q", "theta"], [])]
+        for arguments, expected in cases:
+            lines = self.run_raw("add", *arguments).stderr.decode().splitlines()
+            self.assertEqual(lines, ["wordhawk-cli: " + line for line in expected])
+        lines = self.run_raw("add", "--custom", "names", "a1", "b1", "c1", "d1", "e1", "f1").stderr.decode().splitlines()
+        self.assertEqual(lines[0], "wordhawk-cli: names.DIC: added 6 words")
+        self.assertIn("names.DIC: is not searched yet; for that: wordhawk-cli --data ", lines[1])
+
     def test_chooses_the_dictionary(self):
         self.run_cli("add", "--main", "Hawk")
         self.assertEqual((self.data / "Dictionarys/1033/ha_.dic").read_bytes(), b"hawk,72000\r\n")
@@ -123,6 +135,28 @@ class Import(CliTest):
     def test_obeys_the_import_flags(self):
         self.write("all.dic", "hello\nworld\nzygote\n")
         self.assertEqual(self.run_cli("--flag", "249=0", "import", "all.dic"), "3\n")
+
+    def test_reads_lists_in_any_encoding(self):
+        words = ["naïve2", "café9", "zygote"]
+        for i, (encoding, mark) in enumerate([("utf-8", b""), ("utf-8", b"\xef\xbb\xbf"), ("utf-16-le", b"\xff\xfe"),
+                                              ("utf-16-be", b"\xfe\xff"), ("cp1252", b"")]):
+            self.write(f"list{i}.dic", mark + "\r\n".join(words).encode(encoding))
+            self.assertEqual(self.run_cli("--flag", "250=0", "import", f"list{i}.dic"), "3\n", encoding)
+            held = self.custom(f"list{i}.dic").decode("cp1252")
+            self.assertEqual(sorted(line.split(",")[0] for line in held.splitlines()), sorted(words), encoding)
+
+    def test_tells_what_it_left_out_and_what_is_to_be_done(self):
+        self.write("My names.dic", "hello\nżółw\nx\n\nZygote\nthe\n")
+        done = self.run_raw("import", "My names.dic")
+        self.assertEqual((done.returncode, done.stdout), (0, b"1\n"))
+        left_out, not_searched = done.stderr.decode().splitlines()
+        self.assertEqual(left_out, "wordhawk-cli: My names.dic: left out: 2 known already, 1 too short, "
+                         "1 that a dictionary in code page 1252 cannot hold")
+        self.assertIn(' dictionaries --activate "My names.dic"', not_searched)
+        self.run_cli("dictionaries", "--activate", "My names.dic")
+        self.assertEqual(self.run_cli("check", stdin=b"zygote"), "")
+        self.write("more.dic", "gizmo\nhello")
+        self.assertEqual(self.run_raw("import", "-q", "more.dic").stderr, b"")
 
     def test_refuses_missing_files_and_odd_names(self):
         self.assertIn("the file does not exist", self.fail_cli("import", "missing.dic"))
@@ -181,6 +215,8 @@ class CommandLine(CliTest):
                  ["suggest"], ["key"], ["add"], ["explain", "one"], ["--set", "Nonsense=1", "dictionaries"],
                  ["--set", "ScoreValue", "dictionaries"], ["--flag", "3", "dictionaries"],
                  ["--flag", "3=2", "dictionaries"], ["--flag", "256=1", "dictionaries"],
+                 ["--set", "ScoreValue=abc", "dictionaries"], ["--set", "Language=abc", "dictionaries"],
+                 ["--set", "ScoreBox=2", "dictionaries"], ["--set", "Diversity=99999", "dictionaries"],
                  ["--locale", "x", "dictionaries"], ["add", "--main", "--custom", "x", "word"],
                  ["build-dictionary", "--output", "x"], ["build-dictionary", "--code-page", "1", "--output", "x", "y"]]
         for arguments in self.sample(cases):
