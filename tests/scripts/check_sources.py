@@ -25,7 +25,7 @@ LAYERS = {
     "engine": ("platform", "app", "lang", "dict"),
     "cli": ("platform", "app", "lang", "dict", "engine"),
     "ui": ("platform", "app", "lang", "dict", "engine", "automation"),
-    "automation": ("platform", "app", "lang", "dict", "engine", "ui"),
+    "automation": ("platform", "app", "lang", "dict", "engine"),
 }
 # Which rooms of a folder the files of a room may include; "" is the folder itself.
 ROOMS = {

@@ -95,9 +95,17 @@ std::wstring RichEdit::PlainText() const {
 }
 
 void RichEdit::SetPlainText(std::wstring_view text) {
+    // The control asks for the text in pieces, and would take a CR LF that is cut in two for two
+    // line breaks.
+    std::wstring whole;
+    whole.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool is_second_half = text[i] == L'\n' && i > 0 && text[i - 1] == L'\r';
+        if (!is_second_half) whole += text[i];
+    }
     // Streamed in, a text that begins like rich text or holds a NUL is still only a text.
-    std::string_view rest(reinterpret_cast<const char*>(text.data()),
-                          text.size() * sizeof(wchar_t));
+    std::string_view rest(reinterpret_cast<const char*>(whole.data()),
+                          whole.size() * sizeof(wchar_t));
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, ReadSome};
     Send(EM_STREAMIN, SF_TEXT | SF_UNICODE, reinterpret_cast<LPARAM>(&stream));
     ForgetUndo();
