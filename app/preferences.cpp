@@ -16,6 +16,9 @@ constexpr std::array<std::wstring_view, Preferences::kOptionCount> kKeys = {
     L"IgnoreUCase",  L"IgnoreNumbers", L"ScoreBox",
 };
 
+constexpr std::array<std::wstring_view, Preferences::kModernCount> kModernKeys = {
+    L"WideSearch", L"StraightApostrophe", L"Compounds", L"LettersStay"};
+
 std::wstring_view Digit(bool on) { return on ? L"1" : L"0"; }
 
 bool IsChecked(const ProgramState& state, std::wstring_view key) {
@@ -32,11 +35,19 @@ std::wstring_view PreferenceKey(int option) {
                : std::wstring_view();
 }
 
+std::wstring_view ModernKey(int way) {
+    return way >= 0 && way < Preferences::kModernCount ? kModernKeys[static_cast<std::size_t>(way)]
+                                                       : std::wstring_view();
+}
+
 Preferences LoadPreferences(const ProgramState& state, const Settings& settings,
                             const DelimiterFlagStore& flags) {
     Preferences now;
     for (std::size_t i = 0; i < kKeys.size(); ++i) {
         if (!kKeys[i].empty()) now.options[i] = IsChecked(state, kKeys[i]);
+    }
+    for (std::size_t i = 0; i < kModernKeys.size(); ++i) {
+        now.modern[i] = IsChecked(state, kModernKeys[i]);
     }
     now.options[Preferences::kWarnBeforeMainAdd] = flags.Get(kShownWarningFlag) == 1;
     now.sort_by = settings.SortBy <= 2 ? settings.SortBy : 1;
@@ -68,6 +79,9 @@ bool StorePreferences(const Preferences& chosen, ProgramState& state, Settings& 
     for (std::size_t i = 2; i < kKeys.size(); ++i) put_option(i);
     put(L"Confirmation", std::wstring(Trim(chosen.sound)));
     put(L"SortBy", std::to_wstring(chosen.sort_by));
+    for (std::size_t i = 0; i < kModernKeys.size(); ++i) {
+        put(kModernKeys[i], std::wstring(Digit(chosen.modern[i])));
+    }
     bool written = modSect::WriteSettings(modRegs::kSettingsSection, values, state.SettingsFile);
 
     std::vector<DelimiterFlagStore::Flag> changed;

@@ -19,6 +19,7 @@ struct Preferences {
     static constexpr int kWarnBeforeMainAdd = 7;
     static constexpr int kSetClip = 1;
     static constexpr int kTabCount = 4;
+    static constexpr int kModernCount = 4;
 
     std::array<bool, kOptionCount> options{};
     /// 0 to 2.
@@ -27,11 +28,16 @@ struct Preferences {
     std::wstring sound;
     /// By flag number less one.
     std::array<bool, DelimiterFlagStore::kDelimiterCount> delimiters{};
+    /// The modern ways of checking, in the order of ModernKey.
+    std::array<bool, kModernCount> modern{};
     int tab = 0;
 };
 
 /// Key of the setting behind a check box; empty for those without one.
 std::wstring_view PreferenceKey(int option);
+
+/// Key of the setting behind one of the modern ways of checking.
+std::wstring_view ModernKey(int way);
 
 /// The choices in force: check boxes and the sound as the settings file has them, the rest as the
 /// program uses it.

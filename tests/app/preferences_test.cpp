@@ -45,6 +45,7 @@ TEST(Preferences, DefaultsWithoutAFile) {
     EXPECT_FALSE(now.rich_clipboard);
     EXPECT_EQ(now.sound, L"");
     EXPECT_EQ(now.tab, 0);
+    EXPECT_EQ(now.modern, decltype(now.modern){}) << "off unless set";
     for (int flag = 1; flag <= 108; ++flag) {
         EXPECT_EQ(now.delimiters[static_cast<std::size_t>(flag - 1)], flag < 16 || flag > 25);
     }
@@ -87,6 +88,7 @@ TEST(Preferences, StoredChoicesHoldNowAndAfterARestart) {
         for (bool& option : chosen.options) option = on;
         chosen.options[Preferences::kWarnBeforeMainAdd] = true;
         chosen.options[Preferences::kNoOption] = false;
+        chosen.modern.fill(on);
         chosen.sort_by = on ? 2 : 1;
         chosen.rich_clipboard = on;
         chosen.sound = on ? L"  C:\\ding.wav " : L"";
@@ -101,10 +103,15 @@ TEST(Preferences, StoredChoicesHoldNowAndAfterARestart) {
         EXPECT_EQ(start.settings.Confirmation, on ? L"C:\\ding.wav" : L"");
         EXPECT_EQ(start.settings.SortBy, chosen.sort_by);
         EXPECT_EQ(start.Stored(L"RemainOpen"), on ? L"1" : L"0");
+        EXPECT_EQ(start.settings.WideSearch, on ? 1 : 0);
+        for (int way = 0; way < Preferences::kModernCount; ++way) {
+            EXPECT_EQ(start.Stored(ModernKey(way)), on ? L"1" : L"0");
+        }
 
         Start later(folder);
         const Preferences again = later.Load();
         EXPECT_EQ(again.options, chosen.options);
+        EXPECT_EQ(again.modern, chosen.modern);
         EXPECT_EQ(again.sort_by, chosen.sort_by);
         EXPECT_EQ(again.rich_clipboard, chosen.rich_clipboard);
         EXPECT_EQ(again.sound, start.settings.Confirmation);

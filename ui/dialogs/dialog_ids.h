@@ -39,7 +39,8 @@ enum : int {
     linTTyp,
     linTTyp_last = linTTyp + 1,
     chkModern = 180,
-    chkModern_last = chkModern + 4,
+    chkWays,
+    chkWays_last = chkWays + 3,
 };
 }  // namespace preferences_id
 

@@ -74,6 +74,8 @@ void frmPreferences::ShowOptions(const Preferences& now) {
     for (std::size_t i = 0; i < chkPrefs.size(); ++i) {
         if (static_cast<int>(i) != Preferences::kNoOption) chkPrefs[i].SetChecked(now.options[i]);
     }
+    for (std::size_t i = 0; i < chkWays.size(); ++i) chkWays[i].SetChecked(now.modern[i]);
+    chkWays_Click();
     for (std::size_t i = 0; i < optST.size(); ++i) {
         optST[i].SetChecked(static_cast<int>(i) == now.sort_by);
     }
@@ -149,6 +151,15 @@ void frmPreferences::chkPrefs_Click(int index) {
     }
 }
 
+void frmPreferences::chkModern_Click() {
+    for (CheckBox& way : chkWays) way.SetChecked(chkModern.Checked());
+}
+
+void frmPreferences::chkWays_Click() {
+    chkModern.SetChecked(std::all_of(chkWays.begin(), chkWays.end(),
+                                     [](const CheckBox& way) { return way.Checked(); }));
+}
+
 void frmPreferences::EnableFormats() {
     const bool enabled = chkPrefs[Preferences::kSetClip].Checked();
     for (OptionButton& format : optTTyp) format.SetEnabled(enabled);
@@ -207,6 +218,7 @@ void frmPreferences::cmdOK_Click() {
             chosen.options[i] = chkPrefs[i].Checked();
         }
     }
+    for (std::size_t i = 0; i < chkWays.size(); ++i) chosen.modern[i] = chkWays[i].Checked();
     chosen.rich_clipboard = optTTyp[1].Checked();
     chosen.sound = lblSnd.Text();
     for (std::size_t i = 0; i < optST.size(); ++i) {
@@ -273,7 +285,12 @@ bool frmPreferences::OnClick(int id) {
         chkPrefs_Click(id - preferences_id::chkPrefs);
         return true;
     }
+    if (id >= preferences_id::chkWays && id <= chkWays_last) {
+        chkWays_Click();
+        return true;
+    }
     switch (id) {
+        case preferences_id::chkModern: chkModern_Click(); return true;
         case preferences_id::cmdSnd: cmdSnd_Click(); return true;
         case preferences_id::cmdDefaults: cmdDefaults_Click(); return true;
         case preferences_id::cmdCusDicts: cmdCusDicts_Click(); return true;

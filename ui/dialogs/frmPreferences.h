@@ -27,6 +27,8 @@ class frmPreferences : public FormDialog, public PreferencesControls {
     // Events
     void lblTab_Click(int index);
     void chkPrefs_Click(int index);
+    void chkModern_Click();
+    void chkWays_Click();
     void cboLgs_Click();
     void cmdSnd_Click();
     void lblSnd_MouseDown();

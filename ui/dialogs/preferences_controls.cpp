@@ -43,6 +43,10 @@ void PreferencesControls::CreateSpelling(ToolTips& tips) {
         optTTyp[1].Create(at(preferences_id::optTTyp + 1), Group::Continues);
         linTTyp[1].Create(at(preferences_id::linTTyp_last), Label::Kind::Value);
     }
+    chkModern.Create(at(preferences_id::chkModern));
+    for (std::size_t i = 0; i < chkWays.size(); ++i) {
+        chkWays[i].Create(at(preferences_id::chkWays + static_cast<int>(i)));
+    }
 }
 
 void PreferencesControls::CreateDisplay(ToolTips& tips) {
@@ -85,12 +89,13 @@ std::vector<FormControl*> PreferencesControls::All() {
     for (CheckBox& box : chkPrefs) {
         if (box.Handle() != nullptr) all.push_back(&box);
     }
+    for (CheckBox& way : chkWays) all.push_back(&way);
     for (OptionButton& option : optTTyp) all.push_back(&option);
     for (OptionButton& option : optST) all.push_back(&option);
     for (Label& label : lblDis) all.push_back(&label);
     all.insert(all.end(), {&lblST, &lblSound, &lblSnd, &cmdSnd, &lblLanguage, &cboLgs,
                            &lblDelimiters, &lstCr, &cmdDefaults, &lblDictionary, &lstDicts,
-                           &lblDict, &lblManage, &cmdCusDicts, &cmdOK, &cmdCancel});
+                           &lblDict, &lblManage, &cmdCusDicts, &chkModern, &cmdOK, &cmdCancel});
     return all;
 }
 
@@ -110,6 +115,11 @@ void PreferencesControls::SetTextIds() {
         int tip;
     };
     const Row rows[] = {
+        {chkModern, kModernChecking, 0},
+        {chkWays[0], kWideSearchOption, 0},
+        {chkWays[1], kStraightApostropheOption, 0},
+        {chkWays[2], kCompoundsOption, 0},
+        {chkWays[3], kLettersStayOption, 0},
         {optTTyp[0], kPlainText, 0},
         {optTTyp[1], kRichText, 0},
         {optST[0], kScore, kSearchBySound},
@@ -141,14 +151,17 @@ layout::NodePtr PreferencesControls::Option(int index) const {
 
 layout::NodePtr PreferencesControls::SpellingLayout() const {
     using namespace layout;
+    std::vector<NodePtr> ways;
+    for (const CheckBox& way : chkWays) ways.push_back(Item(way, {0, kCheckHeight}));
     NodePtr formats =
         Column(3, List(Item(linTTyp[0], {120, 1}),
                        Row(11, List(Item(optTTyp[0], {0, kCheckHeight}),
                                     Item(optTTyp[1], {0, kCheckHeight}), Space({0, 0}, 1))),
                        Item(linTTyp[1], {120, 1})));
-    return Column(
-        5, List(Option(8), Option(10), Option(11), Option(6), Option(7), Space({0, 4}), Option(0),
-                Option(1), Row(0, List(Space({18, 0}), std::move(formats))), Option(2)));
+    return Column(5, List(Option(8), Option(10), Option(11), Option(6), Option(7), Space({0, 4}),
+                          Option(0), Option(1), Row(0, List(Space({18, 0}), std::move(formats))),
+                          Option(2), Space({0, 4}), Item(chkModern, {0, kCheckHeight}),
+                          Row(0, List(Space({18, 0}), Column(3, std::move(ways))))));
 }
 
 layout::NodePtr PreferencesControls::DisplayLayout() const {

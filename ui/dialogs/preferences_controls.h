@@ -30,6 +30,10 @@ struct PreferencesControls {
     std::array<OptionButton, 2> optTTyp;
     std::array<Label, 2> linTTyp;
 
+    /// One for all, and below it the modern ways of checking one by one.
+    CheckBox chkModern;
+    std::array<CheckBox, Preferences::kModernCount> chkWays;
+
     std::array<OptionButton, 3> optST;
     Label lblST;
     Label lblSound;

@@ -110,6 +110,30 @@ TEST_F(PreferencesDialog, OkWritesEverythingAndCancelNothingButTheTab) {
     }
 }
 
+TEST_F(PreferencesDialog, ModernCheckingIsOneSwitchOverFourAndOffAtFirst) {
+    frmPreferences& form = Open();
+    const auto ways = [&] {
+        std::string checked;
+        for (const CheckBox& way : form.chkWays) checked += way.Checked() ? '1' : '0';
+        return checked + (form.chkModern.Checked() ? " all" : "");
+    };
+    EXPECT_EQ(ways(), "0000");
+    Click(form.chkModern);
+    EXPECT_EQ(ways(), "1111 all");
+    Click(form.chkWays[2]);
+    EXPECT_EQ(ways(), "1101");
+    Click(form.chkWays[2]);
+    EXPECT_EQ(ways(), "1111 all");
+    Click(form.chkModern);
+    EXPECT_EQ(ways(), "0000");
+    Click(form.chkWays[1]);
+    Click(form.cmdOK);
+    EXPECT_EQ(Stored(L"StraightApostrophe"), L"1");
+    EXPECT_EQ(Stored(L"WideSearch"), L"0");
+    EXPECT_EQ(Running().settings.StraightApostrophe, 1);
+    EXPECT_EQ(Running().settings.LettersStay, 0);
+}
+
 TEST_F(PreferencesDialog, FormatsCanBeChosenWhileTheClipboardIsSetAndAreStoredAnyhow) {
     frmPreferences& form = Open();
     Toggle(form.chkPrefs[1]);
