@@ -52,8 +52,8 @@ bool IsUnfit(wchar_t c) {
 
 class Rewriter {
   public:
-    Rewriter(std::string_view rtf, std::wstring_view default_face)
-        : lexer_(rtf), fonts_(default_face) {
+    Rewriter(std::string_view rtf, std::wstring_view default_face, RtfLists lists)
+        : lexer_(rtf), lists_(lists), fonts_(default_face) {
         body_.reserve(rtf.size());
     }
 
@@ -160,7 +160,7 @@ class Rewriter {
 
     /// A destination that readers who do not know it are to pass over.
     bool Starred(std::string_view word) {
-        if (word == "pn" && group_.place == Place::Body) {
+        if (word == "pn" && group_.place == Place::Body && lists_ == RtfLists::Kept) {
             group_.place = Place::Numbering;
             group_.paragraph.numbering = {};
         } else if (word == "ud" && group_.either_form) {
@@ -185,6 +185,8 @@ class Rewriter {
         } else if (word == "upr") {
             group_.either_form = group_.place == Place::Body;
             group_.place = Place::Nowhere;
+        } else if (word == "pntext" && lists_ == RtfLists::AsText) {
+            dropped_ = true;
         } else if (IsTextlessDestination(word) || IsLeftOut(word)) {
             group_.place = Place::Nowhere;
         } else {
@@ -365,6 +367,7 @@ class Rewriter {
     }
 
     RtfLexer lexer_;
+    RtfLists lists_;
     RtfFonts fonts_;
     RtfColours colours_;
     int document_page_ = 1252;
@@ -391,8 +394,8 @@ class Rewriter {
 
 }  // namespace
 
-RewrittenRtf RewriteRtf(std::string_view rtf, std::wstring_view default_face) {
-    return Rewriter(rtf, default_face).Rewrite();
+RewrittenRtf RewriteRtf(std::string_view rtf, std::wstring_view default_face, RtfLists lists) {
+    return Rewriter(rtf, default_face, lists).Rewrite();
 }
 
 }  // namespace wordhawk

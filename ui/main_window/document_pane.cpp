@@ -207,7 +207,8 @@ void DocumentPane::Paste() {
     if (const auto rtf = clipboard_.HasRichText() ? clipboard_.RichText() : std::nullopt) {
         if (LooksLikeRtf(*rtf)) {
             if (before_rich_text) before_rich_text();
-            const std::string rewritten = RewriteRtf(*rtf, look_.face).rtf;
+            // Wine's box ends the process when marks of lists come into the middle of a text.
+            const std::string rewritten = RewriteRtf(*rtf, look_.face, RtfLists::AsText).rtf;
             if (rtbW.SetRtf(rewritten, RichEdit::Into::Selection)) return;
         }
     }

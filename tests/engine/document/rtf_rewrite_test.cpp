@@ -110,8 +110,18 @@ TEST(RtfRewrite, WhatAPersonWouldMissIsTold) {
         {"raw data", " a\\bin3 }}}b", start + "ab", true},
         {"an object behind a count that wraps", " a\\bin4294967297 x{\\object b}", start + "a",
          true},
-        {"group that turns into a picture", " a{{\\b x}\\pict 0102}y", start + "a\\b x\\b0 y", true},
+        {"group that turns into a picture", " a{{\\b x}\\pict 0102}y", start + "a\\b x\\b0 y",
+         true},
     });
+}
+
+TEST(RtfRewrite, MarksOfListsCanBecomeText) {
+    const RewrittenRtf result =
+        RewriteRtf("{\\rtf1\\pard{\\pntext 1.\\tab}{\\*\\pn\\pnlvlbody\\pndec{\\pntxta.}}a}",
+                   L"Arial", RtfLists::AsText);
+    EXPECT_EQ(RtfToText(result.rtf), L"1.\ta");
+    EXPECT_EQ(result.rtf.find("pn"), std::string::npos);
+    EXPECT_TRUE(result.dropped);
 }
 
 TEST(RtfRewrite, BearsNestingWithoutEnd) {

@@ -205,6 +205,13 @@ TEST_F(FileSafety, RichTextOfAnyKindLeavesTheWindowAlive) {
     document.LoadRichText("{\\rtf1\\ansi recieve " + std::string(400, '{') + "wrld" +
                           std::string(400, '}') + "}");
     EXPECT_EQ(DocumentText(), L"recieve wrld");
+    const std::string list =
+        "{\\rtf1\\pard\\par\\pard{\\pntext\\'b7\\tab}{\\*\\pn\\pnlvlblt{\\pntxtb\\'b7}}a\\par "
+        "b\\par}";
+    document.LoadRichText(list);
+    fakes_.clipboard.rich = list;
+    document.Paste();
+    EXPECT_NE(DocumentText().find(L"\u00B7\ta\rb"), std::wstring::npos);
     const std::vector<std::string> pieces = {"{",
                                              "}",
                                              "\\",
