@@ -35,15 +35,18 @@ struct ProgramState {
     std::wstring CommandFile;
     /// Characters that split words, in flag order.
     std::wstring Delimiters;
+    /// The page of dictionaries and of texts in bytes: the language's own, else the system's.
     const AnsiCodePage* CodePage = &AnsiCodePage::Get(1252);
+    /// The page of the settings, which no change of language changes.
+    const AnsiCodePage* SystemPage = &AnsiCodePage::Get(1252);
 
     /// Set by a progress display's cancel, cleared when a check pass starts.
     bool CancelFlag = false;
     /// Asks Add All and import to stop; cleared when they start.
     bool StopFlag = false;
 
-    /// The settings file, read and written in the page in force.
-    modSect::ProfileFile SettingsProfile() const { return {SettingsFile, CodePage}; }
+    /// The settings file, read and written in the system's page.
+    modSect::ProfileFile SettingsProfile() const { return {SettingsFile, SystemPage}; }
     Path CustomFolder() const { return DataFolder / "Dictionarys" / "Custom"; }
     Path ResourcesFolder() const { return DataFolder / "Resources"; }
     Path SoundsFolder() const { return DataFolder / "Sounds"; }

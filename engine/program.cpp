@@ -20,8 +20,9 @@ Program::Program(ProgramOptions options, UiServices& services)
     state.LocaleOverride = options_.locale;
     const int locale = options_.locale != 0 ? options_.locale : SystemDefaultLocale();
     // A locale that was asked for brings its own page, so that results do not hang on the machine.
-    system_page_ = &AnsiCodePage::Get(options_.locale != 0 ? AnsiPageOfLocale(locale)
-                                                           : SystemAnsiPage(locale));
+    state.SystemPage = &AnsiCodePage::Get(options_.locale != 0 ? AnsiPageOfLocale(locale)
+                                                               : SystemAnsiPage(locale));
+    state.CodePage = state.SystemPage;
 
     PrepareFolders(state);
     InstallLanguages();
@@ -54,7 +55,7 @@ std::wstring Program::ChangeLanguage() {
 
 void Program::UseCodePageOfLanguage() {
     const AnsiCodePage* const own = CodePageOfFolder(state.LanguageDictFolder);
-    state.CodePage = own != nullptr ? own : system_page_;
+    state.CodePage = own != nullptr ? own : state.SystemPage;
     state.Delimiters = BuildDelimiters(flags, *state.CodePage);
 }
 

@@ -65,8 +65,6 @@ class Program {
     modRcLangs::MissingFile LanguageFiles() const;
 
     ProgramOptions options_;
-    /// For a language whose dictionaries do not tell their page.
-    const AnsiCodePage* system_page_;
 };
 
 }  // namespace wordhawk

@@ -86,6 +86,11 @@ TEST_F(ProgramTest, EachPacksBytesAreReadInItsOwnCodePage) {
     modSect::WriteSetting(L"Settings", L"Language", L"1045", program.state.SettingsFile);
     EXPECT_EQ(program.ChangeLanguage(), L"1045");
     EXPECT_EQ(unknown(), std::vector<std::wstring>{L"na\xEFve"});
+    // The settings keep their page: a name stored in one language is the same in the other.
+    const std::vector<std::wstring> names = {L"na\xEFve.dic"};
+    EXPECT_TRUE(modRegs::SaveCustomDictionaryList(program.state, names));
+    EXPECT_EQ(Program(Options(), ui_).settings.CustomDictionaries, names);
+    EXPECT_NE(test::ReadBytes(program.state.SettingsFile).find("na\xEFve.dic"), std::string::npos);
     // What cuts words is told by code: 0xB9 is a sign in one page and a letter in the other.
     EXPECT_NE(program.state.Delimiters.find(L'\x105'), std::wstring::npos);
     Path file;
