@@ -61,7 +61,9 @@ void DocumentFiles::KeepRecoveryCopy() {
 }
 
 void DocumentFiles::KeepUnsaved() {
-    if (!KeepsTexts() || !parts_.document.HasUnsavedText()) {
+    // What another program asked for and did not get, because it ended, has only this place to go.
+    const bool wanted = KeepsTexts() || !parts_.program.state.ProgramMode;
+    if (!wanted || !parts_.document.HasUnsavedText()) {
         recovery_.Discard();
         return;
     }
