@@ -46,7 +46,7 @@ TEST_P(WindowInLanguage, HasNoClippedText) {
     EXPECT_EQ(program_->state.LanguageId, std::to_wstring(GetParam()));
     ExpectNothingClipped(Form().Handle());
     Click(Form().cmdOptions);
-    const SIZE smallest = MainGeometry::Smallest(96);
+    const SIZE smallest{MainGeometry::kMinimumWidth, MainGeometry::kMinimumHeight};
     SetWindowPos(Form().Handle(), nullptr, 0, 0, smallest.cx, smallest.cy,
                  SWP_NOMOVE | SWP_NOZORDER);
     Pump();
