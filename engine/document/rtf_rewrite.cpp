@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -167,6 +166,7 @@ class Rewriter {
             group_.place = Place::Body;
             group_.either_form = false;
         } else {
+            dropped_ |= word == "pn" && group_.place == Place::Body;
             group_.place = Place::Nowhere;
         }
         return true;
@@ -288,7 +288,6 @@ class Rewriter {
     }
 
     void Character(wchar_t character) { Characters({&character, 1}); }
-
     void Characters(std::wstring_view text) {
         switch (group_.place) {
             case Place::Body: break;
