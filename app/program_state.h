@@ -29,6 +29,8 @@ struct ProgramState {
     /// Empty until the language is chosen: then only built-in texts are used.
     Path LanguageFile;
     Path LanguageDictFolder;
+    /// Counts of the language's words that the program brought along; empty when it brought none.
+    Path ShippedFrequencies;
     std::wstring HelpFile;
 
     /// The document named on the command line, cleaned; empty when none.

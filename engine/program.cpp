@@ -5,9 +5,11 @@
 #include "dict/code_page_file.h"
 #include "engine/install.h"
 #include "engine/install_languages.h"
+#include "engine/shipped_dictionaries.h"
 #include "platform/cIsInIDE.h"
 #include "platform/folders.h"
 #include "platform/locale_ids.h"
+#include "platform/modSect.h"
 
 #include <algorithm>
 
@@ -41,6 +43,12 @@ Program::Program(ProgramOptions options, UiServices& services)
 
 void Program::ReloadSettings() {
     settings = modRegs::LoadSettings(state);
+    for (const auto& [key, value] : options_.setting_defaults) {
+        const modRegs::SettingRow* const row = modRegs::FindRow(key);
+        const bool named =
+            !modSect::ReadSetting(modRegs::kSettingsSection, key, L"", state.SettingsFile).empty();
+        if (row != nullptr && !named) row->assign(settings, value);
+    }
     for (const auto& [key, value] : options_.setting_overrides) {
         if (const modRegs::SettingRow* row = modRegs::FindRow(key)) row->assign(settings, value);
     }
@@ -86,11 +94,14 @@ void Program::InstallLanguages() {
 }
 
 void Program::InstallDictionaries() {
+    const Path shipped = options_.shipped_dictionaries.empty()
+                             ? ShippedFolder(ProgramFolder(), "dictionaries")
+                             : options_.shipped_dictionaries;
+    const int pack = ShippedPackOf(NumberOrZero(state.LanguageId));
+    state.ShippedFrequencies =
+        pack != 0 ? shipped / std::to_string(pack) / "frequencies.txt" : Path();
     if (!options_.install_shipped) return;
-    const Result<bool> installed =
-        InstallShippedDictionaries(state, options_.shipped_dictionaries.empty()
-                                              ? ShippedFolder(ProgramFolder(), "dictionaries")
-                                              : options_.shipped_dictionaries);
+    const Result<bool> installed = InstallShippedDictionaries(state, shipped);
     install_failure = installed ? std::nullopt : std::optional(installed.error());
 }
 

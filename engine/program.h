@@ -29,6 +29,8 @@ struct ProgramOptions {
     Path shipped_dictionaries;
     /// Folder of the shipped language files; empty means "languages" beside the program.
     Path shipped_languages;
+    /// Settings that have this value where the settings file does not name them.
+    std::vector<std::pair<std::wstring, std::wstring>> setting_defaults;
     /// Settings and delimiter flags that hold for this run only.
     std::vector<std::pair<std::wstring, std::wstring>> setting_overrides;
     std::vector<std::pair<int, int>> flag_overrides;

@@ -1,0 +1,200 @@
+#include "engine/suggest/build_word_image.h"
+
+#include "dict/lines.h"
+#include "dict/phonetic_key.h"
+#include "engine/suggest/word_skeletons.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <unordered_map>
+#include <vector>
+
+namespace wordhawk {
+namespace {
+
+/// Counts below this differ by chance; it also is the count of a word without one.
+constexpr double kChance = 5;
+
+using Commonness = std::unordered_map<std::string, std::uint8_t>;
+
+Commonness ReadCommonness(const Path& file, const AnsiCodePage& page) {
+    Commonness commonness;
+    const Result<std::string> bytes = ReadWholeFile(file);
+    if (!bytes) return commonness;
+    ForEachLine(*bytes, [&](std::string_view line) {
+        const std::size_t blank = line.rfind(' ');
+        if (blank == std::string_view::npos) return;
+        const std::string_view digits = line.substr(blank + 1);
+        std::uint64_t count = 0;
+        std::from_chars(digits.data(), digits.data() + digits.size(), count);
+        const double nats = std::log((static_cast<double>(count) + kChance) / kChance);
+        commonness[page.Encode(FromUtf8(line.substr(0, blank)))] = static_cast<std::uint8_t>(
+            std::min(255.0, std::round(nats * WordImage::kStepsOfCommonness)));
+    });
+    return commonness;
+}
+
+/// Collects the parts of an image and writes them behind each other.
+class ImageWriter {
+  public:
+    explicit ImageWriter(const WordImageSources& sources)
+        : page_(*sources.page), commonness_(ReadCommonness(sources.frequencies, page_)) {
+        header_.magic = word_image::kMagic;
+        header_.version = word_image::kVersion;
+        header_.code_page = static_cast<std::uint32_t>(page_.Number());
+        header_.frequencies = StampOf(sources.frequencies);
+        offsets_.push_back(0);
+    }
+
+    void AddFile(const Path& folder, const StampedName& file) {
+        const std::string name = ToUtf8(file.name);
+        WordImage::FileRow row{};
+        row.stamp = file.stamp;
+        row.name = static_cast<std::uint32_t>(names_.size());
+        row.name_size = static_cast<std::uint32_t>(name.size());
+        row.first_word = static_cast<std::uint32_t>(values_.size());
+        names_ += name;
+        const Result<std::string> bytes = ReadWholeFile(folder / PathFromText(file.name));
+        if (bytes) AddWords(*bytes, name);
+        row.words = static_cast<std::uint32_t>(values_.size()) - row.first_word;
+        files_.push_back(row);
+    }
+
+    std::string Finish() {
+        prefix_starts_.push_back(static_cast<std::uint32_t>(values_.size()));
+        BuildIndex();
+        header_.files = static_cast<std::uint32_t>(files_.size());
+        header_.words = static_cast<std::uint32_t>(values_.size());
+        header_.prefixes = static_cast<std::uint32_t>(prefixes_.size());
+        header_.entries = static_cast<std::uint32_t>(entries_.size());
+        header_.text_size = static_cast<std::uint32_t>(text_.size());
+        header_.names_size = static_cast<std::uint32_t>(names_.size());
+        const word_image::Layout layout(header_);
+        std::string image(layout.size, '\0');
+        const auto put = [&image](std::uint64_t at, const auto& values) {
+            if (!values.empty())
+                std::memcpy(image.data() + at, values.data(), values.size() * sizeof values[0]);
+        };
+        put(layout.files, files_);
+        put(layout.offsets, offsets_);
+        put(layout.groups, groups_);
+        put(layout.prefix_starts, prefix_starts_);
+        put(layout.heads, heads_);
+        put(layout.entries, entries_);
+        put(layout.commonness, values_);
+        put(layout.text, text_);
+        put(layout.names, names_);
+        std::memcpy(image.data(), &header_, sizeof header_);
+        header_.checksum = word_image::Checksum(word_image::Checked(image));
+        std::memcpy(image.data(), &header_, sizeof header_);
+        return image;
+    }
+
+  private:
+    void AddWords(std::string_view bytes, std::string_view file_name) {
+        words_.clear();
+        MainEntryTest test(file_name, page_);
+        ForEachEntry(bytes, false, [&](std::string_view word) {
+            if (test.Passes(word)) words_.push_back(word);
+        });
+        std::sort(words_.begin(), words_.end());
+        words_.erase(std::unique(words_.begin(), words_.end()), words_.end());
+        for (const std::string_view word : words_) AddWord(word);
+    }
+
+    void AddWord(std::string_view word) {
+        const std::uint64_t prefix = skeletons::PrefixOf(word);
+        if (prefixes_.empty() || prefixes_.back() != prefix) {
+            prefixes_.push_back(prefix);
+            prefix_starts_.push_back(static_cast<std::uint32_t>(values_.size()));
+        }
+        text_ += word;
+        offsets_.push_back(static_cast<std::uint32_t>(text_.size()));
+        groups_.push_back(LetterGroups(word));
+        key_ = word;
+        const auto known = commonness_.find(key_);
+        values_.push_back(known == commonness_.end() ? std::uint8_t{0} : known->second);
+    }
+
+    /// Lists the prefixes by the buckets of their skeletons: counts, then places them.
+    void BuildIndex() {
+        constexpr std::size_t kSkeletonsEach = 20;
+        constexpr std::size_t kEntriesEach = 2;
+        header_.bucket_bits = static_cast<std::uint32_t>(
+            std::bit_width(prefixes_.size() * kSkeletonsEach / kEntriesEach + 1));
+        heads_.assign((std::size_t{1} << header_.bucket_bits) + 1, 0);
+        std::array<std::uint32_t, skeletons::kMost> buckets;
+        for (const std::uint64_t prefix : prefixes_) {
+            const std::size_t count = skeletons::BucketsOf(prefix, header_.bucket_bits, buckets);
+            for (std::size_t i = 0; i < count; ++i) ++heads_[buckets[i] + 1];
+        }
+        for (std::size_t i = 1; i < heads_.size(); ++i) heads_[i] += heads_[i - 1];
+        entries_.resize(heads_.back());
+        // From behind, so that each head ends where its entries begin.
+        for (std::size_t p = prefixes_.size(); p-- > 0;) {
+            const std::size_t count =
+                skeletons::BucketsOf(prefixes_[p], header_.bucket_bits, buckets);
+            for (std::size_t i = 0; i < count; ++i)
+                entries_[--heads_[buckets[i] + 1]] = static_cast<std::uint32_t>(p);
+        }
+        // Every head has moved to the start of its own entries, one place too high.
+        std::copy(heads_.begin() + 1, heads_.end(), heads_.begin());
+        heads_.back() = static_cast<std::uint32_t>(entries_.size());
+    }
+
+    const AnsiCodePage& page_;
+    Commonness commonness_;
+    WordImage::Header header_{};
+    std::vector<WordImage::FileRow> files_;
+    std::vector<std::uint32_t> offsets_;
+    std::vector<std::uint32_t> groups_;
+    std::vector<std::uint64_t> prefixes_;
+    std::vector<std::uint32_t> prefix_starts_;
+    std::vector<std::uint32_t> heads_;
+    std::vector<std::uint32_t> entries_;
+    std::vector<std::uint8_t> values_;
+    std::string text_;
+    std::string names_;
+    std::vector<std::string_view> words_;
+    std::string key_;
+};
+
+}  // namespace
+
+bool IsSearchable(std::string_view word, const AnsiCodePage& page) {
+    return !word.empty() && word.size() <= WordImage::kLongestWord &&
+           std::all_of(word.begin(), word.end(), [&page](char c) {
+               const auto byte = static_cast<unsigned char>(c);
+               return page.LowerByte(byte) == byte;
+           });
+}
+
+MainEntryTest::MainEntryTest(std::string_view file_name, const AnsiCodePage& page)
+    : file_name_(FromUtf8(file_name)), page_(page) {}
+
+bool MainEntryTest::Passes(std::string_view word) {
+    if (!IsSearchable(word, page_)) return false;
+    if (const std::string_view beginning = word.substr(0, 2); beginning != beginning_) {
+        beginning_ = beginning;
+        // Without regard to case, as some file systems look for names.
+        belongs_ =
+            EqualIgnoringCase(GetDictionaryFileName(page_.Decode(beginning), page_), file_name_);
+    }
+    return belongs_;
+}
+
+std::string BuildWordImage(const WordImageSources& sources, Progress& progress) {
+    const std::vector<StampedName> files = StampedFiles(sources.folder, L".dic");
+    ImageWriter writer(sources);
+    progress.SetRange(files.size());
+    std::uint64_t done = 0;
+    for (const StampedName& file : files) {
+        writer.AddFile(sources.folder, file);
+        progress.SetPosition(++done);
+    }
+    return writer.Finish();
+}
+
+}  // namespace wordhawk

@@ -1,0 +1,311 @@
+#include "engine/suggest/wide_search.h"
+
+#include "dict/phonetic_key.h"
+#include "engine/suggest/edit_costs.h"
+#include "engine/suggest/edit_path.h"
+#include "engine/suggest/language_words.h"
+#include "engine/suggest/near_distance.h"
+#include "engine/suggest/word_skeletons.h"
+#include "engine/suggest/word_traits.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace wordhawk {
+namespace {
+
+constexpr int kNear = 2;
+constexpr int kFar = WideSearch::kMostEdits;
+/// Shorter words turn into anything with three edits.
+constexpr std::size_t kShortestFar = 5;
+/// Three edits, at most two of them in the beginning, are tried when the edits to no word cost less
+/// than this; any three when they do not cost less than kHopeless.
+constexpr float kPoor = 4;
+constexpr float kHopeless = 10;
+
+constexpr std::size_t kMostSuggestions = 20;
+/// Candidates that cost this much more than the best are not worth reading.
+constexpr float kWorthReading = 9;
+
+/// Commonness of words that the user added, as if they had been counted.
+constexpr float kCustomCommonness = 5;
+/// Commonness of the commonest words.
+constexpr float kTop = 17;
+/// Cost of leaving out the blank between two words.
+constexpr float kJoin = 5.5F;
+/// The same behind a word of one letter, which is joined most often (alot, abit).
+constexpr float kJoinToLetter = 1.5F;
+/// How much rarer two words in a row are than their product says of one.
+constexpr float kPairRarity = 20;
+/// Words below this are not taken for a part of two words written as one.
+constexpr float kCommonPart = 6;
+
+int ScoreOf(float cost) {
+    constexpr float kScale = 24;
+    return std::clamp(static_cast<int>(std::lround(100 * std::exp(-cost / kScale))), 1, 99);
+}
+
+struct Candidate {
+    float cost;
+    std::string word;
+};
+
+}  // namespace
+
+struct WideSearch::Parts {
+    explicit Parts(DictionaryStore& the_store) : store(the_store), words(the_store) {}
+
+    void Refresh(Progress& progress) {
+        words.Refresh(progress);
+        const ProgramState& state = store.State();
+        const LearnedTable& wanted = LearnedTableFor(NumberOrZero(state.LanguageId));
+        if (&wanted != table || page != state.CodePage) {
+            table = &wanted;
+            page = state.CodePage;
+            costs = std::make_unique<EditCosts>(wanted);
+            path = std::make_unique<EditPath<EditCosts>>(*costs);
+            letters_of = letters::OfPage(*page);
+        }
+        seen.resize(words.Image().PrefixCount(), 0);
+    }
+
+    Spelling Spell(std::string_view bytes) const {
+        Spelling spelling;
+        spelling.size = static_cast<int>(std::min(bytes.size(), Spelling::kLongest));
+        for (std::size_t i = 0; i < static_cast<std::size_t>(spelling.size); ++i) {
+            spelling.bytes[i] = bytes[i];
+            spelling.letters[i] = letters_of[static_cast<unsigned char>(bytes[i])];
+        }
+        return spelling;
+    }
+
+    DictionaryStore& store;
+    LanguageWords words;
+    const LearnedTable* table = nullptr;
+    const AnsiCodePage* page = nullptr;
+    std::unique_ptr<EditCosts> costs;
+    std::unique_ptr<EditPath<EditCosts>> path;
+    std::array<Letter, 256> letters_of{};
+    /// By prefix: the number of the search that looked at it last.
+    std::vector<std::uint32_t> seen;
+    std::uint32_t searches = 0;
+};
+
+/// One search, or one comparison.
+class WideSearch::Search {
+  public:
+    Search(Parts& parts, std::wstring_view word)
+        : parts_(parts),
+          bytes_(parts.page->Encode(Lowered(word))),
+          written_(parts.Spell(bytes_)),
+          sounds_(written_),
+          groups_(LetterGroups(bytes_)),
+          distance_(std::string_view(bytes_).substr(0, WordImage::kLongestWord)) {}
+
+    Suggestions Run() {
+        GatherByBeginning(0, kNear);
+        if (bytes_.size() >= kShortestFar) {
+            if (cheapest_edits_ >= kPoor) GatherByBeginning(kFar, kFar);
+            if (cheapest_edits_ >= kHopeless) GatherFar();
+        }
+        GatherPairs();
+        return Finish();
+    }
+
+    Account Compare(std::wstring_view candidate) {
+        const std::string word = parts_.page->Encode(Lowered(candidate));
+        Account account;
+        if (word.empty() || word.size() > WordImage::kLongestWord) return account;
+        const auto place = parts_.words.Image().Find(word);
+        float commonness = 0;
+        if (place && !parts_.words.IsOutdated(*place)) {
+            account.known = true;
+            commonness = CommonnessOf(*place);
+        }
+        for (const WordList& list : parts_.words.Lists()) {
+            for (std::size_t i = 0; i < list.size(); ++i) {
+                if (list[i] != word) continue;
+                account.known = true;
+                commonness = std::max(commonness, kCustomCommonness);
+            }
+        }
+        account.distance = distance_.To(word);
+        const Spelling meant = parts_.Spell(word);
+        account.edits = parts_.path->Cost(meant, written_);
+        account.rarity = Weight(Trait::Rarity) * (kTop - commonness);
+        account.traits = TraitCost(meant);
+        account.score =
+            word == bytes_ ? 100 : ScoreOf(account.edits + account.rarity + account.traits);
+        return account;
+    }
+
+  private:
+    static std::wstring Lowered(std::wstring_view word) {
+        std::wstring lower = Lower(word);
+        std::replace(lower.begin(), lower.end(), L'\u2019', L'\'');
+        return lower;
+    }
+
+    /// What can be known of a candidate without its bytes.
+    bool MayBeWithin(int edits, std::size_t size, std::uint32_t groups) const {
+        const auto most = static_cast<std::size_t>(edits);
+        return size <= bytes_.size() + most && bytes_.size() <= size + most &&
+               std::popcount(groups_ & ~groups) <= edits &&
+               std::popcount(groups & ~groups_) <= edits;
+    }
+
+    /// Words whose beginning is at most two edits from this one's.
+    void GatherByBeginning(int least, int most) {
+        const WordImage& image = parts_.words.Image();
+        std::array<std::uint32_t, skeletons::kMost> buckets;
+        const std::size_t count =
+            skeletons::BucketsOf(skeletons::PrefixOf(bytes_), image.BucketBits(), buckets);
+        const std::uint32_t number = ++parts_.searches;
+        image.ForEachNearRange({buckets.data(), count},
+                               [&](std::uint32_t prefix, std::uint32_t first, std::uint32_t last) {
+                                   if (parts_.seen[prefix] == number) return;
+                                   parts_.seen[prefix] = number;
+                                   for (std::uint32_t i = first; i < last; ++i)
+                                       TryPlace(i, least, most);
+                               });
+        for (const WordList& list : parts_.words.Lists()) TryList(list, least, most);
+    }
+
+    void GatherFar() {
+        const std::span<const std::uint32_t> groups = parts_.words.Image().AllGroups();
+        for (std::uint32_t i = 0; i < groups.size(); ++i) {
+            // Turns most words away at the cost of one number each.
+            if (std::popcount(groups_ ^ groups[i]) <= 2 * kFar) TryPlace(i, kFar, kFar);
+        }
+    }
+
+    void TryPlace(std::uint32_t i, int least, int most) {
+        const WordImage& image = parts_.words.Image();
+        const std::string_view word = image.Word(i);
+        if (!MayBeWithin(most, word.size(), image.Groups(i))) return;
+        const int distance = distance_.To(word);
+        if (distance > most || distance < least || parts_.words.IsOutdated(i)) return;
+        Take(word, CommonnessOf(i));
+    }
+
+    void TryList(const WordList& list, int least, int most) {
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            const std::string_view word = list[i];
+            if (!MayBeWithin(most, word.size(), list.groups[i])) continue;
+            const int distance = distance_.To(word);
+            if (distance > most || distance < least) continue;
+            // A word may stand in the image as well, with its count.
+            const auto place = parts_.words.Image().Find(word);
+            Take(word, std::max(kCustomCommonness, place ? CommonnessOf(*place) : 0));
+        }
+    }
+
+    void Take(std::string_view word, float commonness) {
+        if (word == bytes_) {
+            holds_itself_ = true;
+            return;
+        }
+        const Spelling meant = parts_.Spell(word);
+        const float edits = parts_.path->Cost(meant, written_);
+        cheapest_edits_ = std::min(cheapest_edits_, edits);
+        const float rarity = Weight(Trait::Rarity) * (kTop - commonness);
+        const float without_traits = edits + rarity;
+        if (without_traits > best_ + kWorthReading) return;
+        found_.push_back({without_traits + TraitCost(meant), std::string(word)});
+        best_ = std::min(best_, found_.back().cost);
+    }
+
+    /// Two common words with the blank between them left out.
+    void GatherPairs() {
+        if (written_.size < 3) return;
+        for (std::size_t cut = 1; cut < bytes_.size(); ++cut) {
+            const float first = PartCommonness(bytes_.substr(0, cut));
+            const float second = first > 0 ? PartCommonness(bytes_.substr(cut)) : 0;
+            if (second == 0) continue;
+            const float pair = first + second - kPairRarity;
+            found_.push_back(
+                {(cut == 1 ? kJoinToLetter : kJoin) + Weight(Trait::Rarity) * (kTop - pair),
+                 bytes_.substr(0, cut) + ' ' + bytes_.substr(cut)});
+        }
+    }
+
+    /// 0 for what is no common word.
+    float PartCommonness(const std::string& part) const {
+        const auto place = parts_.words.Image().Find(part);
+        if (!place || parts_.words.IsOutdated(*place)) return 0;
+        const float commonness = CommonnessOf(*place);
+        // One letter is a word in few cases, and these are very common.
+        const float least = part.size() == 1 ? 1.5F * kCommonPart : kCommonPart;
+        return commonness >= least ? commonness : 0;
+    }
+
+    Suggestions Finish() {
+        if (holds_itself_) found_.push_back({-1, bytes_});
+        std::sort(found_.begin(), found_.end(), [](const Candidate& a, const Candidate& b) {
+            return a.cost != b.cost ? a.cost < b.cost : a.word < b.word;
+        });
+        Suggestions result;
+        for (const Candidate& candidate : found_) {
+            if (result.list.size() == kMostSuggestions) break;
+            const float best = found_[holds_itself_ && found_.size() > 1 ? 1 : 0].cost;
+            if (candidate.cost > best + kWorthReading) break;
+            Suggestion suggestion;
+            suggestion.word = parts_.page->Decode(candidate.word);
+            const auto again = std::find_if(
+                result.list.begin(), result.list.end(),
+                [&](const Suggestion& other) { return other.word == suggestion.word; });
+            if (again != result.list.end()) continue;  // in two dictionaries
+            suggestion.key = GetPhoneticKeyOfBytes(candidate.word, *parts_.page);
+            suggestion.score = candidate.word == bytes_ ? 100 : ScoreOf(candidate.cost);
+            result.list.push_back(std::move(suggestion));
+        }
+        if (!result.list.empty()) result.best = 0;
+        return result;
+    }
+
+    float CommonnessOf(std::uint32_t i) const {
+        return static_cast<float>(parts_.words.Image().Commonness(i)) /
+               WordImage::kStepsOfCommonness;
+    }
+    float Weight(Trait trait) const {
+        return parts_.table->traits[static_cast<std::size_t>(trait)];
+    }
+    float TraitCost(const Spelling& meant) const {
+        const TraitValues values = CompareWords(meant, written_, sounds_);
+        float cost = 0;
+        for (std::size_t i = 0; i < kTraits; ++i) cost += parts_.table->traits[i] * values[i];
+        return cost;
+    }
+
+    Parts& parts_;
+    std::string bytes_;
+    Spelling written_;
+    WordSounds sounds_;
+    std::uint32_t groups_;
+    NearDistance distance_;
+    std::vector<Candidate> found_;
+    bool holds_itself_ = false;
+    float cheapest_edits_ = EditPath<EditCosts>::kNoWay;
+    float best_ = EditPath<EditCosts>::kNoWay;
+};
+
+WideSearch::WideSearch(DictionaryStore& store) : parts_(std::make_unique<Parts>(store)) {}
+WideSearch::~WideSearch() = default;
+
+void WideSearch::Prepare(Progress& progress) { parts_->Refresh(progress); }
+
+Suggestions WideSearch::Find(std::wstring_view word) {
+    if (word.size() < 2 || word.size() > WordImage::kLongestWord) return {};
+    Progress none;
+    parts_->Refresh(none);
+    return Search(*parts_, word).Run();
+}
+
+WideSearch::Account WideSearch::Explain(std::wstring_view word, std::wstring_view candidate) {
+    if (word.empty() || word.size() > WordImage::kLongestWord) return {};
+    Progress none;
+    parts_->Refresh(none);
+    return Search(*parts_, word).Compare(candidate);
+}
+
+}  // namespace wordhawk

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "app/progress.h"
+#include "dict/dictionary_store.h"
+#include "engine/suggest/suggestions.h"
+
+#include <memory>
+#include <string_view>
+
+namespace wordhawk {
+
+/// Suggestions from the whole dictionary, by how likely it is that a writer who means a word writes
+/// what stands there: the cost of the edits between both, and how rare the word is. Candidates are
+/// all words of the main and the active custom dictionaries at most two edits away, three where
+/// these are poor, and pairs of words that were written as one. Words of one letter have none, nor
+/// have those of more than 64.
+class WideSearch {
+  public:
+    /// Candidates further away are never suggested.
+    static constexpr int kMostEdits = 3;
+
+    /// The store must outlive the object; its language and custom dictionaries may change.
+    explicit WideSearch(DictionaryStore& store);
+    ~WideSearch();
+    WideSearch(const WideSearch&) = delete;
+    WideSearch& operator=(const WideSearch&) = delete;
+
+    /// The best first, in lower case, each with a score in percent that never rises along the list:
+    /// 100 for the word itself alone, which comes first when the dictionaries hold it. The best is
+    /// entry 0. Files that changed on the disk are seen. The first search may have to make the
+    /// index of the language (see Prepare).
+    Suggestions Find(std::wstring_view word);
+
+    /// Makes the index of the language now, unless it is there: a second or less for most, some for
+    /// languages of millions of forms.
+    void Prepare(Progress& progress);
+
+    /// How the costs of one candidate come about.
+    struct Account {
+        bool known = false;  ///< a dictionary holds the candidate
+        int distance = 0;    ///< edits, a swap of neighbours being one
+        float edits = 0;     ///< cost of the edits, in nats
+        float rarity = 0;    ///< cost of the word's rarity
+        float traits = 0;    ///< cost of what differs between the words as wholes
+        int score = 0;       ///< percent
+    };
+    Account Explain(std::wstring_view word, std::wstring_view candidate);
+
+  private:
+    class Search;
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace wordhawk

@@ -1,0 +1,103 @@
+#include "engine/suggest/word_image.h"
+
+#include "engine/suggest/word_skeletons.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace wordhawk {
+namespace word_image {
+
+Layout::Layout(const WordImage::Header& header) {
+    std::uint64_t at = sizeof(WordImage::Header);
+    const auto part = [&at](std::uint64_t count, std::uint64_t each) {
+        const std::uint64_t start = at;
+        at += (count * each + 7) / 8 * 8;
+        return start;
+    };
+    constexpr std::uint64_t kNumber = sizeof(WordImage::Number);
+    files = part(header.files, sizeof(WordImage::FileRow));
+    offsets = part(std::uint64_t{header.words} + 1, kNumber);
+    groups = part(header.words, kNumber);
+    prefix_starts = part(std::uint64_t{header.prefixes} + 1, kNumber);
+    heads = part((std::uint64_t{1} << header.bucket_bits) + 1, kNumber);
+    entries = part(header.entries, kNumber);
+    commonness = part(header.words, 1);
+    text = part(header.text_size, 1);
+    names = part(header.names_size, 1);
+    size = at;
+}
+
+std::uint64_t Checksum(std::string_view bytes) {
+    // Four sums side by side, so that no step waits for the one before.
+    std::array<std::uint64_t, 4> sums = {bytes.size(), 1, 2, 3};
+    const auto mix = [](std::uint64_t sum, std::uint64_t next) {
+        sum = (sum ^ next) * 0x9E3779B97F4A7C15U;
+        return sum ^ sum >> 32;
+    };
+    std::size_t at = 0;
+    for (; bytes.size() - at >= 32; at += 32) {
+        std::array<std::uint64_t, 4> next;
+        std::memcpy(next.data(), bytes.data() + at, 32);
+        for (std::size_t i = 0; i < 4; ++i) sums[i] = mix(sums[i], next[i]);
+    }
+    for (; at < bytes.size(); ++at) sums[0] = mix(sums[0], static_cast<unsigned char>(bytes[at]));
+    return mix(mix(mix(sums[0], sums[1]), sums[2]), sums[3]);
+}
+
+std::string_view Checked(std::string_view image) {
+    return image.substr(offsetof(WordImage::Header, checksum) + sizeof(std::uint64_t));
+}
+
+}  // namespace word_image
+
+std::optional<WordImage> WordImage::Read(std::string_view bytes, int code_page) {
+    static_assert(std::endian::native == std::endian::little);
+    constexpr unsigned kMostBucketBits = 28;
+    WordImage image;
+    Header& header = image.header_;
+    if (bytes.size() < sizeof header ||
+        reinterpret_cast<std::uintptr_t>(bytes.data()) % alignof(std::uint64_t) != 0)
+        return std::nullopt;
+    std::memcpy(&header, bytes.data(), sizeof header);
+    if (header.magic != word_image::kMagic || header.version != word_image::kVersion ||
+        header.code_page != static_cast<std::uint32_t>(code_page) || header.bucket_bits == 0 ||
+        header.bucket_bits > kMostBucketBits)
+        return std::nullopt;
+    const word_image::Layout layout(header);
+    if (layout.size != bytes.size() ||
+        header.checksum != word_image::Checksum(word_image::Checked(bytes)))
+        return std::nullopt;
+
+    const auto part = [&]<class Value>(std::span<const Value>& values, std::uint64_t start,
+                                       std::uint64_t count) {
+        values = {reinterpret_cast<const Value*>(bytes.data() + start),
+                  static_cast<std::size_t>(count)};
+    };
+    part(image.files_, layout.files, header.files);
+    part(image.offsets_, layout.offsets, std::uint64_t{header.words} + 1);
+    part(image.groups_, layout.groups, header.words);
+    part(image.prefix_starts_, layout.prefix_starts, std::uint64_t{header.prefixes} + 1);
+    part(image.heads_, layout.heads, (std::uint64_t{1} << header.bucket_bits) + 1);
+    part(image.entries_, layout.entries, header.entries);
+    part(image.commonness_, layout.commonness, header.words);
+    image.text_ = bytes.substr(layout.text, header.text_size);
+    image.names_ = bytes.substr(layout.names, header.names_size);
+    return image;
+}
+
+std::optional<std::uint32_t> WordImage::Find(std::string_view word) const {
+    std::array<std::uint32_t, skeletons::kMost> buckets;
+    const std::uint64_t prefix = skeletons::PrefixOf(word);
+    skeletons::BucketsOf(prefix, header_.bucket_bits, buckets);
+    std::optional<std::uint32_t> found;
+    // A word has all its skeletons, so one is enough.
+    ForEachNearRange({buckets.data(), 1}, [&](std::uint32_t, std::uint32_t i, std::uint32_t last) {
+        for (; i < last && !found; ++i) {
+            if (Word(i) == word) found = i;
+        }
+    });
+    return found;
+}
+
+}  // namespace wordhawk

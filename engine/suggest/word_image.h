@@ -1,0 +1,127 @@
+#pragma once
+
+#include "platform/file_stamps.h"
+#include "platform/text.h"
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace wordhawk {
+
+/// All words of a language in one block of bytes, as it stands in the cache file: the words of each
+/// dictionary file with how common they are, and an index of their beginnings. It is derived from
+/// the dictionary files, whose stamps it holds; see BuildWordImage. Little-endian.
+class WordImage {
+  public:
+    using Number = std::uint32_t;
+
+    /// How common a word is, in fifteenths of a nat above the rarest; words without a count have 0.
+    static constexpr float kStepsOfCommonness = 15;
+    /// Longer words are left out.
+    static constexpr std::size_t kLongestWord = 64;
+
+    /// One dictionary file, as it was.
+    struct FileRow {
+        FileStamp stamp;
+        std::uint32_t name;  ///< offset among the names
+        std::uint32_t name_size;
+        std::uint32_t first_word;
+        std::uint32_t words;
+    };
+
+    struct Header {
+        std::array<char, 8> magic;
+        std::uint32_t version;
+        std::uint32_t code_page;
+        std::uint64_t checksum;  ///< of everything behind it
+        FileStamp frequencies;
+        std::uint32_t files;
+        std::uint32_t words;
+        std::uint32_t prefixes;
+        std::uint32_t entries;
+        std::uint32_t bucket_bits;
+        std::uint32_t text_size;
+        std::uint32_t names_size;
+        std::uint32_t unused;
+    };
+
+    /// Reads the block; none when it is damaged, cut short, of another version or for another page.
+    /// `bytes` must stay, and begin where a 64-bit number may.
+    static std::optional<WordImage> Read(std::string_view bytes, int code_page);
+
+    std::uint32_t WordCount() const { return header_.words; }
+    std::string_view Word(std::uint32_t i) const {
+        const std::uint32_t start = std::min(offsets_[i], header_.text_size);
+        const std::uint32_t end = std::min(offsets_[i + 1], header_.text_size);
+        return text_.substr(start, std::min<std::size_t>(end - std::min(start, end), kLongestWord));
+    }
+    std::uint32_t Groups(std::uint32_t i) const { return groups_[i]; }
+    std::span<const Number> AllGroups() const { return groups_; }
+    std::uint8_t Commonness(std::uint32_t i) const { return commonness_[i]; }
+    /// The place of a word; none when it is not there.
+    std::optional<std::uint32_t> Find(std::string_view word) const;
+
+    const FileStamp& FrequenciesStamp() const { return header_.frequencies; }
+    std::span<const FileRow> Files() const { return files_; }
+    /// In UTF-8.
+    std::string_view FileName(const FileRow& file) const {
+        return names_.substr(std::min<std::size_t>(file.name, names_.size()), file.name_size);
+    }
+
+    /// Calls `use(first, last)` for ranges of words among which are all that are at most two edits
+    /// from a word with this beginning (see skeletons). A range may come more than once.
+    template <class Use>
+    void ForEachNearRange(std::span<const std::uint32_t> buckets, Use&& use) const {
+        for (const std::uint32_t bucket : buckets) {
+            const std::uint32_t last = std::min(heads_[bucket + 1], header_.entries);
+            for (std::uint32_t i = heads_[bucket]; i < last; ++i) {
+                const std::uint32_t prefix = entries_[i];
+                if (prefix < header_.prefixes)
+                    use(prefix, prefix_starts_[prefix],
+                        std::min(prefix_starts_[prefix + 1], header_.words));
+            }
+        }
+    }
+    unsigned BucketBits() const { return header_.bucket_bits; }
+    std::uint32_t PrefixCount() const { return header_.prefixes; }
+
+  private:
+    WordImage() = default;
+
+    Header header_{};
+    std::span<const FileRow> files_;
+    std::span<const Number> offsets_;
+    std::span<const Number> groups_;
+    std::span<const Number> prefix_starts_;
+    std::span<const Number> heads_;
+    std::span<const Number> entries_;
+    std::span<const std::uint8_t> commonness_;
+    std::string_view text_;
+    std::string_view names_;
+};
+
+namespace word_image {
+
+inline constexpr std::array<char, 8> kMagic = {'W', 'H', 'W', 'O', 'R', 'D', 'S', '\n'};
+/// To be raised whenever the layout, or what is derived, changes.
+inline constexpr std::uint32_t kVersion = 1;
+
+/// Where the parts of an image stand.
+struct Layout {
+    explicit Layout(const WordImage::Header& header);
+
+    std::uint64_t files, offsets, groups, prefix_starts, heads, entries, commonness, text, names;
+    std::uint64_t size;
+};
+
+std::uint64_t Checksum(std::string_view bytes);
+/// What the checksum covers.
+std::string_view Checked(std::string_view image);
+
+}  // namespace word_image
+}  // namespace wordhawk

@@ -1,0 +1,193 @@
+#include "engine/suggest/wide_search.h"
+
+#include "engine/suggest/edit_costs.h"
+#include "engine/suggest/near_distance.h"
+#include "engine/suggest/suggester.h"
+#include "engine/suggest/word_skeletons.h"
+#include "tests/support/dictionaries.h"
+#include "tests/support/random_text.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace wordhawk {
+namespace {
+
+using test::Dictionaries;
+using test::Random;
+
+std::vector<std::wstring> WordsOf(const Suggestions& found) {
+    std::vector<std::wstring> words;
+    for (const Suggestion& suggestion : found.list) words.push_back(suggestion.word);
+    return words;
+}
+
+/// The distance by its whole matrix.
+int PlainDistance(std::string_view a, std::string_view b) {
+    std::vector<std::vector<int>> d(a.size() + 1, std::vector<int>(b.size() + 1));
+    for (std::size_t i = 0; i <= a.size(); ++i) {
+        for (std::size_t j = 0; j <= b.size(); ++j) {
+            if (i == 0 || j == 0) {
+                d[i][j] = static_cast<int>(i + j);
+                continue;
+            }
+            d[i][j] = std::min(
+                {d[i - 1][j] + 1, d[i][j - 1] + 1, d[i - 1][j - 1] + (a[i - 1] != b[j - 1])});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+                d[i][j] = std::min(d[i][j], d[i - 2][j - 2] + 1);
+        }
+    }
+    return d[a.size()][b.size()];
+}
+
+std::string Narrow(const std::wstring& text) { return ToUtf8(text); }
+
+TEST(NearDistance, EqualsTheWholeMatrix) {
+    Random random(11);
+    for (int round = 0; round < 4000; ++round) {
+        const std::string a = Narrow(random.Word(L"abc", 0, round % 50 == 0 ? 64 : 8));
+        const std::string b = Narrow(random.Word(L"abc", 0, 9));
+        EXPECT_EQ(NearDistance(a).To(b), PlainDistance(a, b)) << a << ' ' << b;
+    }
+}
+
+TEST(Skeletons, WordsTwoEditsApartShareOne) {
+    Random random(12);
+    std::array<std::uint32_t, skeletons::kMost> first;
+    std::array<std::uint32_t, skeletons::kMost> second;
+    for (int round = 0; round < 4000; ++round) {
+        const std::string a = Narrow(random.Word(L"abcd", 1, 10));
+        const std::string b = Narrow(random.Word(L"abcd", 1, 10));
+        if (PlainDistance(a, b) > 2) continue;
+        const std::size_t n = skeletons::BucketsOf(skeletons::PrefixOf(a), 20, first);
+        const std::size_t m = skeletons::BucketsOf(skeletons::PrefixOf(b), 20, second);
+        EXPECT_NE(
+            std::find_first_of(first.begin(), first.begin() + static_cast<std::ptrdiff_t>(n),
+                               second.begin(), second.begin() + static_cast<std::ptrdiff_t>(m)),
+            first.begin() + static_cast<std::ptrdiff_t>(n))
+            << a << ' ' << b;
+    }
+}
+
+TEST(LearnedCosts, TellSlipsFromOtherWords) {
+    for (const int locale : {1033, 1031}) {
+        const LearnedTable& table = LearnedTableFor(locale);
+        EXPECT_TRUE(std::is_sorted(
+            table.edits.begin(), table.edits.end(),
+            [](const LearnedCost& a, const LearnedCost& b) { return a.feature < b.feature; }));
+        EditCosts costs(table);
+        Edit doubled{EditKind::Drop, {letters::Of('c')}, {}, letters::Of('c'), letters::Of('o')};
+        Edit lost{EditKind::Drop, {letters::Of('c')}, {}, letters::Of('a'), letters::Of('o')};
+        EXPECT_LT(costs.Of(doubled), costs.Of(lost)) << locale;
+        for (const float weight : table.traits) EXPECT_GE(weight, 0) << locale;
+    }
+}
+
+class WideSearchTest : public ::testing::Test {
+  protected:
+    Dictionaries data_;
+};
+
+TEST_F(WideSearchTest, FindsWordsOfOtherBeginnings) {
+    data_.WriteMain({L"receive", L"relieve", L"the", L"test", L"set", L"system", L"stem", L"phone",
+                     L"don't", L"dont"});
+    WideSearch search(data_.store);
+    struct Case {
+        std::wstring word, first;
+    };
+    for (const Case& c : std::vector<Case>{{L"recieve", L"receive"},
+                                           {L"Recieve", L"receive"},
+                                           {L"sytem", L"system"},
+                                           {L"tset", L"test"},
+                                           {L"hte", L"the"},
+                                           {L"fone", L"phone"},
+                                           {L"don\u2019tt", L"don't"}}) {
+        const Suggestions found = search.Find(c.word);
+        ASSERT_FALSE(found.list.empty()) << ToUtf8(c.word);
+        EXPECT_EQ(found.best, 0);
+        EXPECT_EQ(found.list[0].word, c.first) << ToUtf8(c.word);
+        EXPECT_TRUE(std::is_sorted(
+            found.list.begin(), found.list.end(),
+            [](const Suggestion& a, const Suggestion& b) { return a.score > b.score; }));
+    }
+    EXPECT_TRUE(search.Find(L"t").list.empty());
+    EXPECT_TRUE(search.Find(std::wstring(65, L'a')).list.empty());
+    EXPECT_TRUE(search.Find(L"xqzzvw").list.empty());
+    const Suggestions itself = search.Find(L"stem");
+    ASSERT_GE(itself.list.size(), 1U);
+    EXPECT_EQ(itself.list[0].word, L"stem");
+    EXPECT_EQ(itself.list[0].score, 100);
+}
+
+TEST_F(WideSearchTest, CommonerWordsComeFirstAndPairsAreFound) {
+    data_.WriteMain({L"cat", L"car", L"cap", L"no", L"one", L"nore", L"in", L"of"});
+    test::WriteBytes(data_.state.LanguageDictFolder / "frequencies.txt",
+                     "cat 10\ncar 5000000\ncap 900\nno 90000000\none 90000000\nin 90000000\n");
+    WideSearch search(data_.store);
+    const std::vector<std::wstring> caz = WordsOf(search.Find(L"cax"));
+    EXPECT_EQ(caz, (std::vector<std::wstring>{L"car", L"cap", L"cat"}));
+    const std::vector<std::wstring> pair = WordsOf(search.Find(L"noone"));
+    EXPECT_NE(std::find(pair.begin(), pair.end(), L"no one"), pair.end());
+    const std::vector<std::wstring> rare = WordsOf(search.Find(L"ofin"));
+    EXPECT_EQ(std::find(rare.begin(), rare.end(), L"of in"), rare.end());
+}
+
+TEST_F(WideSearchTest, EqualsTryingEveryWord) {
+    Random random(14);
+    std::set<std::wstring> words;
+    while (words.size() < 800) words.insert(random.Word(L"abcdeit'", 1, 11));
+    data_.WriteMain({words.begin(), words.end()});
+    data_.WriteCustom(L"CUSTOM.DIC", "aaccbb,1\r\nbacbac\r\n");
+    words.insert({L"aaccbb", L"bacbac"});
+    WideSearch search(data_.store);
+    std::size_t suggested = 0;
+    for (int round = 0; round < 40; ++round) {
+        const std::wstring word = random.Word(L"abcdeit'", 2, 12);
+        // By rank: no word two edits away or less that is not listed may cost less than a listed
+        // one.
+        const Suggestions found = search.Find(word);
+        suggested += found.list.size();
+        std::map<std::wstring, float> costs;
+        std::vector<float> all;
+        for (const std::wstring& candidate : words) {
+            const WideSearch::Account account = search.Explain(word, candidate);
+            ASSERT_TRUE(account.known);
+            ASSERT_EQ(account.distance, PlainDistance(Narrow(word), Narrow(candidate)));
+            if (account.distance > WideSearch::kMostEdits) continue;
+            const float cost =
+                candidate == word ? -1 : account.edits + account.rarity + account.traits;
+            costs[candidate] = cost;
+            if (account.distance <= 2) all.push_back(cost);
+        }
+        std::sort(all.begin(), all.end());
+        std::size_t better = 0;
+        float last = -2;
+        for (const Suggestion& suggestion : found.list) {
+            ASSERT_TRUE(costs.contains(suggestion.word))
+                << ToUtf8(word) << ' ' << ToUtf8(suggestion.word);
+            EXPECT_LE(last, costs[suggestion.word] + 1e-3F);
+            last = costs[suggestion.word];
+            // Words of two edits or less fill their places in order.
+            while (better < all.size() && all[better] < last - 1e-3F) ++better;
+        }
+        std::size_t listed_near = 0;
+        for (const Suggestion& s : found.list)
+            listed_near +=
+                PlainDistance(Narrow(word), Narrow(s.word)) <= 2 && costs[s.word] < last - 1e-3F;
+        EXPECT_EQ(listed_near, better) << ToUtf8(word);
+    }
+    EXPECT_GT(suggested, 100U);
+}
+
+TEST_F(WideSearchTest, SettingChoosesTheSearch) {
+    data_.WriteMain({L"test", L"the"});
+    EXPECT_TRUE(Suggester(data_.store, data_.settings).Find(L"tset").list.empty());
+    data_.settings.WideSearch = 1;
+    EXPECT_EQ(WordsOf(Suggester(data_.store, data_.settings).Find(L"tset")).at(0), L"test");
+}
+
+}  // namespace
+}  // namespace wordhawk
