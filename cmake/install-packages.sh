@@ -46,7 +46,8 @@ BUILD_PACKAGES="cmake ninja-build g++ python3
     libcli11-dev libexpected-dev"
 # Sources of the shipped dictionaries (data/sources/README.md).
 WORD_LIST_PACKAGES="wamerican-large wbritish-large wngerman wfrench hunspell-es witalian hunspell-it
-    wdutch wportuguese wbrazilian wdanish hunspell-sv wpolish"
+    wdutch wportuguese wbrazilian wdanish hunspell-sv wpolish
+    onboard-data wamerican-small wbritish-small"
 # The cross build of the window, and what it runs with here.
 WINDOW_PACKAGES="g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 libwine
     fonts-wine fonts-liberation"
