@@ -40,7 +40,8 @@ class FileChecker {
           store_(state_, settings_),
           rules_(SplitRules::From(state_, settings_)),
           options_(options),
-          report_(store_, SuggestionRules::From(settings_), options, colour) {}
+          suggester_(store_, settings_),
+          report_(suggester_, options, colour) {}
 
     /// Prints in format List what was not lately printed; repeats are for the caller to drop.
     FileResult Check(const std::string& file, Output& out, ProgressLine* progress) {
@@ -108,6 +109,7 @@ class FileChecker {
     DictionaryStore store_;
     SplitRules rules_;
     const CheckOptions& options_;
+    Suggester suggester_;
     CheckReport report_;
 };
 

@@ -59,7 +59,7 @@ const std::string& CheckReport::TailOf(const UnknownWord& word) {
 
 std::string CheckReport::MakeTail(std::wstring_view listed, LetterCase letter_case) {
     Suggestions found;
-    if (options_.suggestions) found = FindSuggestions(store_, listed, rules_);
+    if (options_.suggestions) found = suggester_.Find(listed);
     const auto most = static_cast<std::size_t>(options_.max_suggestions);
     if (most != 0 && found.list.size() > most) found.list.resize(most);
 

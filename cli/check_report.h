@@ -5,7 +5,7 @@
 #include "cli/output.h"
 #include "dict/dictionary_store.h"
 #include "engine/check/text_checker.h"
-#include "engine/suggest/suggestions.h"
+#include "engine/suggest/suggester.h"
 
 #include <cstdint>
 #include <string>
@@ -20,9 +20,8 @@ enum class Colour { Off, On };
 /// distinct word, as long as not too many others came between.
 class CheckReport {
   public:
-    CheckReport(DictionaryStore& store, const SuggestionRules& rules, const CheckOptions& options,
-                Colour colour)
-        : store_(store), rules_(rules), options_(options), colour_(colour) {}
+    CheckReport(Suggester& suggester, const CheckOptions& options, Colour colour)
+        : suggester_(suggester), options_(options), colour_(colour) {}
 
     /// What follows is about this file, named as the user named it (UTF-8).
     void BeginFile(std::string_view name);
@@ -34,8 +33,7 @@ class CheckReport {
     const std::string& TailOf(const UnknownWord& word);
     std::string MakeTail(std::wstring_view listed, LetterCase letter_case);
 
-    DictionaryStore& store_;
-    SuggestionRules rules_;
+    Suggester& suggester_;
     const CheckOptions& options_;
     Colour colour_;
     std::string file_;  // as it is printed

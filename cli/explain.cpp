@@ -6,9 +6,10 @@
 #include "engine/suggest/cLS.h"
 #include "engine/suggest/modSimPercent.h"
 #include "engine/suggest/suggestions.h"
+#include "engine/suggest/wide_search.h"
 
-#include <array>
 #include <utility>
+#include <vector>
 
 namespace wordhawk {
 namespace {
@@ -80,6 +81,23 @@ std::string DroppedBy(std::wstring_view word, const Explanation& is, const Sugge
     return {};
 }
 
+/// The same for the search through the whole dictionary.
+std::string DroppedBy(std::wstring_view word, const WideSearch::Account& account) {
+    if (word.size() < 2) return "length: a word of one character has no suggestions";
+    if (!account.known) return "dictionaries: none of them holds the candidate";
+    if (account.distance > WideSearch::kMostEdits) {
+        return "distance: " + std::to_string(account.distance) + " edits are more than " +
+               std::to_string(WideSearch::kMostEdits);
+    }
+    return {};
+}
+
+/// With two places behind the point.
+std::string Decimal(float number) {
+    std::string text = std::to_string(number);
+    return text.substr(0, text.find('.') + 3);
+}
+
 }  // namespace
 
 int RunExplain(const GlobalOptions& global, const ExplainOptions& options) {
@@ -88,9 +106,12 @@ int RunExplain(const GlobalOptions& global, const ExplainOptions& options) {
     const std::wstring word = FromUtf8(options.word);
     const std::wstring candidate = FromUtf8(options.candidate);
     const Explanation is = Measure(word, candidate, rules, session.program.dictionaries.Page());
-    const std::string dropped_by = DroppedBy(word, is, rules);
+    const bool wide = session.program.settings.WideSearch != 0;
+    WideSearch::Account account;
+    if (wide) account = WideSearch(session.program.dictionaries).Explain(word, candidate);
+    const std::string dropped_by = wide ? DroppedBy(word, account) : DroppedBy(word, is, rules);
 
-    const std::array<std::pair<std::string_view, std::string>, 9> rows = {{
+    std::vector<std::pair<std::string_view, std::string>> rows = {
         {"word", JsonString(word)},
         {"candidate", JsonString(candidate)},
         {"word_key", std::to_string(is.word_key)},
@@ -98,9 +119,15 @@ int RunExplain(const GlobalOptions& global, const ExplainOptions& options) {
         {"dictionary_file", JsonString(is.dictionary_file)},
         {"distance", std::to_string(is.distance)},
         {"distance_with_swaps", std::to_string(is.distance_with_swaps)},
-        {"score", std::to_string(is.score)},
-        {"dropped_by", dropped_by.empty() ? "null" : JsonString(std::string_view(dropped_by))},
-    }};
+        {"score", std::to_string(wide ? account.score : is.score)},
+    };
+    if (wide) {
+        rows.insert(rows.end(), {{"edit_cost", Decimal(account.edits)},
+                                 {"rarity_cost", Decimal(account.rarity)},
+                                 {"trait_cost", Decimal(account.traits)}});
+    }
+    rows.emplace_back("dropped_by",
+                      dropped_by.empty() ? "null" : JsonString(std::string_view(dropped_by)));
     Output out(stdout);
     if (options.json) {
         for (const auto& [name, value] : rows) {
@@ -108,12 +135,26 @@ int RunExplain(const GlobalOptions& global, const ExplainOptions& options) {
         }
         out << "}\n";
     } else {
-        out << "word                 " << word << "\ncandidate            " << candidate
-            << "\nword_key             " << is.word_key << "\ncandidate_key        "
-            << is.candidate_key << "\ndictionary_file      " << is.dictionary_file
-            << "\ndistance             " << is.distance << "\ndistance_with_swaps  "
-            << is.distance_with_swaps << "\nscore                " << is.score
-            << "\ndropped_by           " << (dropped_by.empty() ? "nothing" : dropped_by) << '\n';
+        const auto line = [&out](std::string_view name, const auto& value) {
+            constexpr std::size_t kColumn = 21;
+            out << name
+                << std::string_view("                     ").substr(0, kColumn - name.size())
+                << value << '\n';
+        };
+        line("word", word);
+        line("candidate", candidate);
+        line("word_key", is.word_key);
+        line("candidate_key", is.candidate_key);
+        line("dictionary_file", is.dictionary_file);
+        line("distance", is.distance);
+        line("distance_with_swaps", is.distance_with_swaps);
+        line("score", wide ? account.score : is.score);
+        if (wide) {
+            line("edit_cost", Decimal(account.edits));
+            line("rarity_cost", Decimal(account.rarity));
+            line("trait_cost", Decimal(account.traits));
+        }
+        line("dropped_by", dropped_by.empty() ? std::string("nothing") : dropped_by);
     }
     out.Flush();
     return out.Failed() ? kExitFailed : kExitFine;

@@ -67,7 +67,9 @@ ParsedCommandLine ParseIspellCommandLine(const std::vector<std::string>& argumen
         } else if (argument == "--help" || argument == "-h") {
             help = true;
         } else if (argument.starts_with("--")) {
-            const bool is_own = argument == "--no-install" || argument.starts_with("--data=") ||
+            const bool is_own = argument == "--no-install" || argument == "--classic" ||
+                                argument.starts_with("--search=") ||
+                                argument.starts_with("--data=") ||
                                 argument.starts_with("--locale=") ||
                                 argument.starts_with("--set=") || argument.starts_with("--flag=");
             if (is_own) own.push_back(argument);

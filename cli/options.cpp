@@ -49,6 +49,19 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& global, RawOverrides& raw) {
     OneValueEachTime(app, "--flag", raw.flags,
                      "Use 0 or 1 for delimiter flag N (1 to 255) in this run")
         ->type_name("N=0|1");
+    app.add_option_function<std::string>(
+           "--search",
+           [&global](const std::string& search) {
+               global.search = search == "wide" ? SearchChoice::Wide : SearchChoice::File;
+           },
+           "Where suggestions come from: wide, the whole dictionary (default), or file, the one "
+           "file of the word's beginning")
+        ->type_name("wide|file")
+        ->check(CLI::IsMember({"wide", "file"}).description(""));
+    app.add_flag_callback(
+        "--classic", [&global] { global.behaviour = Behaviour::Classic; },
+        "Use 0 for the settings that go beyond the classic behaviour: WideSearch, "
+        "StraightApostrophe, Compounds and LettersStay, which are 1 here unless set");
     app.add_flag_callback(
         "--no-install", [&global] { global.install = false; },
         "Do not copy shipped dictionaries and language files into the data folder");

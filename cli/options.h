@@ -8,6 +8,9 @@
 
 namespace wordhawk {
 
+enum class Behaviour { Modern, Classic };
+enum class SearchChoice { BySetting, Wide, File };
+
 /// Options that every command takes; all text is UTF-8.
 struct GlobalOptions {
     std::string data_folder;
@@ -15,6 +18,10 @@ struct GlobalOptions {
     std::vector<std::pair<std::string, std::string>> settings;
     std::vector<std::pair<int, int>> flags;
     bool install = true;
+    /// The settings that go beyond the classic behaviour: 1 where nobody set them, or all 0.
+    Behaviour behaviour = Behaviour::Modern;
+    /// Which search gives suggestions; by the setting unless it was chosen.
+    SearchChoice search = SearchChoice::BySetting;
 };
 
 enum class CheckFormat { Lines, List, Json, Words };

@@ -8,7 +8,7 @@
 
 namespace wordhawk {
 PipeSession::PipeSession(Program& program, Output& out)
-    : program_(program), out_(out), suggestion_rules_(SuggestionRules::From(program.settings)) {}
+    : program_(program), out_(out), suggester_(program.dictionaries, program.settings) {}
 
 void PipeSession::HandleLine(std::string_view line) {
     if (!IsUtf8(line)) {
@@ -101,8 +101,7 @@ void PipeSession::CheckLine(std::wstring_view line) {
 }
 
 void PipeSession::ReportUnknown(std::wstring_view word, std::size_t offset) {
-    const Suggestions found =
-        FindSuggestions(program_.dictionaries, Lower(word), suggestion_rules_);
+    const Suggestions found = suggester_.Find(Lower(word));
     out_ << (found.list.empty() ? "# " : "& ");
     Write(word);
     if (found.list.empty()) {

@@ -3,7 +3,7 @@
 #include "cli/output.h"
 #include "engine/check/text_checker.h"
 #include "engine/program.h"
-#include "engine/suggest/suggestions.h"
+#include "engine/suggest/suggester.h"
 
 #include <cstdint>
 #include <memory>
@@ -42,7 +42,7 @@ class PipeSession {
 
     Program& program_;
     Output& out_;
-    SuggestionRules suggestion_rules_;
+    Suggester suggester_;
     std::unique_ptr<TextChecker> checker_;
     std::uint64_t fed_ = 0;  // units that checker_ was given
     Detail detail_ = Detail::Full;

@@ -14,6 +14,18 @@ ProgramOptions ToProgramOptions(const GlobalOptions& options) {
     if (!options.data_folder.empty()) program.data_folder = PathFromArgument(options.data_folder);
     program.locale = options.locale;
     program.install_shipped = options.install;
+    for (const wchar_t* const key :
+         {L"WideSearch", L"StraightApostrophe", L"Compounds", L"LettersStay"}) {
+        if (options.behaviour == Behaviour::Modern) {
+            program.setting_defaults.emplace_back(key, L"1");
+        } else {
+            program.setting_overrides.emplace_back(key, L"0");
+        }
+    }
+    if (options.search != SearchChoice::BySetting) {
+        program.setting_overrides.emplace_back(L"WideSearch",
+                                               options.search == SearchChoice::Wide ? L"1" : L"0");
+    }
     for (const auto& [key, value] : options.settings) {
         program.setting_overrides.emplace_back(FromUtf8(key), FromUtf8(value));
     }

@@ -2,18 +2,18 @@
 #include "cli/output.h"
 #include "cli/session.h"
 #include "cli/word_input.h"
-#include "engine/suggest/suggestions.h"
+#include "engine/suggest/suggester.h"
 
 namespace wordhawk {
 
 int RunSuggest(const GlobalOptions& global, const WordOptions& options) {
     Session session(global);
     Program& program = session.program;
-    const SuggestionRules rules = SuggestionRules::From(program.settings);
+    Suggester suggester(program.dictionaries, program.settings);
     Output out(stdout);
     const auto read =
         ForEachWord(options, program.dictionaries.Page(), [&](std::wstring_view word) {
-            const Suggestions found = FindSuggestions(program.dictionaries, word, rules);
+            const Suggestions found = suggester.Find(word);
             if (found.list.empty()) out << word << "\t\t\t\n";
             for (std::size_t i = 0; i < found.list.size(); ++i) {
                 const Suggestion& suggestion = found.list[i];

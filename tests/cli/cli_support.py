@@ -51,6 +51,8 @@ class CliTest(unittest.TestCase):
     program = None    # set by run_cli_tests.py
     reference = None  # a second build to compare with, when there is one
     template = None
+    # Most tests are about the classic behaviour; those of the modern one have no option here.
+    behaviour = ("--classic",)
     maxDiff = 4000
 
     @classmethod
@@ -77,8 +79,8 @@ class CliTest(unittest.TestCase):
         return cases[::3] if self.program.emulated else cases
 
     def run_raw(self, *arguments, stdin=b"", data=None):
-        return self.program.run("--data", data or self.data, "--locale", "1033", "--no-install", *arguments,
-                                stdin=stdin, cwd=self.folder)
+        return self.program.run("--data", data or self.data, "--locale", "1033", "--no-install",
+                                *self.behaviour, *arguments, stdin=stdin, cwd=self.folder)
 
     def run_cli(self, *arguments, stdin=b"", code=0):
         """Runs with the test's data folder and returns stdout as text; the exit code must be `code`."""

@@ -29,6 +29,40 @@ class Suggest(CliTest):
         self.assertIn("test\t67\t*", self.run_cli("--set", "ScoreValue=60", "suggest", "teh"))
 
 
+class WideSearch(CliTest):
+    behaviour = ()
+
+    def first(self, *arguments):
+        return self.run_cli(*arguments).splitlines()[0].split("\t")[1]
+
+    def test_is_the_default_and_gives_way(self):
+        cases = [([], "test"), (["--search", "wide"], "test"), (["--search", "file"], ""), (["--classic"], ""),
+                 (["--classic", "--search", "wide"], "test"), (["--set", "WideSearch=0"], "")]
+        for options, expected in self.sample(cases):
+            with self.subTest(options):
+                self.assertEqual(self.first(*options, "suggest", "tset"), expected)
+        (self.data / "Wordhawk.ini").write_text("[Settings]\nWideSearch=0\n")
+        self.assertEqual(self.first("suggest", "tset"), "")
+
+    def test_sees_words_as_they_come_and_go(self):
+        self.assertEqual(self.first("suggest", "wrold"), "world")
+        self.run_cli("add", "--main", "wroldy")
+        self.assertIn("wroldy", self.run_cli("suggest", "wrold"))
+        self.run_cli("add", "wroldz")
+        self.assertIn("wroldz", self.run_cli("suggest", "wrold"))
+        self.run_cli("remove", "wroldy", "wroldz")
+        self.assertNotIn("wroldy", self.run_cli("suggest", "wrold"))
+
+    def test_serves_check_pipe_and_explain(self):
+        self.write("t", "A tset.\n")
+        self.assertIn("t:1:3: tset -> test (", self.run_cli("check", "t", code=1))
+        self.assertRegex(self.run_cli("pipe", stdin="Tset\n"), "& Tset [0-9]+ 0: Test")
+        row = json.loads(self.run_cli("explain", "--json", "tset", "test"))
+        self.assertEqual((row["distance_with_swaps"], row["dropped_by"]), (1, None))
+        self.assertGreater(row["edit_cost"], 0)
+        self.assertIn("none of them holds", self.run_cli("explain", "tset", "tester"))
+
+
 class Explain(CliTest):
     def test_measures(self):
         cases = [

@@ -121,5 +121,5 @@ class Editors(CliTest):
         environment = dict(os.environ, WORDHAWK=str(wrapper), WORDHAWK_DATA=str(self.data), LC_ALL="C.UTF-8")
         done = subprocess.run(["emacs", "-Q", "--batch", "-l", str(script)], env=environment, capture_output=True,
                               timeout=120, cwd=self.folder)
-        self.assertEqual(done.stdout.decode(), "Zzqq 1 nil\nrecieve 17 receive\nwrold 35 nil\nlien 47 nil\n"
-                         "zzx 54 nil\nélève 58 nil\nhelo 66 hello\nitem 73 nil\ndone\n", done.stderr.decode())
+        self.assertEqual(done.stdout.decode(), "Zzqq 1 nil\nrecieve 17 receive\nwrold 35 world\nlien 47 line\n"
+                         "zzx 54 nil\nélève 58 line\nhelo 66 hello\nitem 73 it\ndone\n", done.stderr.decode())
