@@ -1,6 +1,7 @@
 #include "engine/suggest/wide_search.h"
 
 #include "engine/suggest/edit_costs.h"
+#include "engine/suggest/edit_path.h"
 #include "engine/suggest/near_distance.h"
 #include "engine/suggest/suggester.h"
 #include "engine/suggest/word_skeletons.h"
@@ -69,6 +70,77 @@ TEST(Skeletons, WordsTwoEditsApartShareOne) {
                                second.begin(), second.begin() + static_cast<std::ptrdiff_t>(m)),
             first.begin() + static_cast<std::ptrdiff_t>(n))
             << a << ' ' << b;
+    }
+}
+
+/// A cost for every edit, from its number.
+struct OddCosts {
+    float Of(const Edit& edit) const {
+        return static_cast<float>(1 + edit.Number() * 2654435761U % 97) / 10;
+    }
+};
+
+/// The cheapest way by trying every one, from meant[i] and written[j] on.
+float CheapestWay(const Spelling& meant, const Spelling& written, int i, int j) {
+    if (i == meant.size && j == written.size) return 0;
+    // No step leads on from too far off the diagonal.
+    constexpr int kBand = EditPath<OddCosts>::kBand;
+    const int longer = meant.size - written.size;
+    if (i - j > std::max(0, longer) + kBand || i - j < std::min(0, longer) - kBand) return 1e6F;
+    float best = 1e6F;
+    const auto go = [&](EditKind kind, int rows, int columns) {
+        Edit edit;
+        edit.kind = kind;
+        edit.before = meant.At(i - 1);
+        edit.behind = meant.At(i + rows);
+        for (int k = 0; k < rows; ++k) edit.meant[static_cast<std::size_t>(k)] = meant.At(i + k);
+        if (kind != EditKind::Swap) {
+            for (int k = 0; k < columns; ++k)
+                edit.written[static_cast<std::size_t>(k)] = written.At(j + k);
+        }
+        best = std::min(best,
+                        OddCosts().Of(edit) + CheapestWay(meant, written, i + rows, j + columns));
+    };
+    const bool m1 = i < meant.size;
+    const bool w1 = j < written.size;
+    const bool m2 = i + 1 < meant.size;
+    const bool w2 = j + 1 < written.size;
+    const auto same = [&](int m, int w) { return meant.ByteAt(i + m) == written.ByteAt(j + w); };
+    if (m1 && w1 && same(0, 0)) best = CheapestWay(meant, written, i + 1, j + 1);
+    if (m1) go(EditKind::Drop, 1, 0);
+    if (w1) go(EditKind::Insert, 0, 1);
+    if (m1 && w1 && !same(0, 0)) go(EditKind::Mistake, 1, 1);
+    if (m2 && w2 && same(0, 1) && same(1, 0) && !same(0, 0)) go(EditKind::Swap, 2, 2);
+    if (m2 && w1 && !same(0, 0) && !same(1, 0)) go(EditKind::TwoForOne, 2, 1);
+    if (m1 && w2 && !same(0, 0) && !same(0, 1)) go(EditKind::OneForTwo, 1, 2);
+    return best;
+}
+
+TEST(EditPath, FindsTheCheapestWay) {
+    const std::array<Letter, 256> letters = letters::OfPage(AnsiCodePage::Get(1252));
+    const auto spell = [&](const std::string& bytes) {
+        Spelling spelling;
+        spelling.size = static_cast<int>(bytes.size());
+        for (std::size_t i = 0; i < bytes.size(); ++i) {
+            spelling.bytes[i] = bytes[i];
+            spelling.letters[i] = letters[static_cast<unsigned char>(bytes[i])];
+        }
+        return spelling;
+    };
+    Random random(13);
+    OddCosts costs;
+    EditPath<OddCosts> path(costs);
+    for (int round = 0; round < 300; ++round) {
+        // Another beginning and end, so that nothing is passed over as equal.
+        const std::string a = "a" + Narrow(random.Word(L"abc'", 1, 3)) + "a";
+        const std::string b = "b" + Narrow(random.Word(L"abc'", 1, 3)) + "c";
+        const Spelling meant = spell(a);
+        const Spelling written = spell(b);
+        const float cost = path.Cost(meant, written);
+        EXPECT_NEAR(cost, CheapestWay(meant, written, 0, 0), 1e-3) << a << ' ' << b;
+        float sum = 0;
+        path.ForEachEdit([&](const Edit& edit) { sum += costs.Of(edit); });
+        EXPECT_NEAR(sum, cost, 1e-3) << a << ' ' << b;
     }
 }
 
