@@ -66,7 +66,8 @@ void DialogTest::Restart() {
     ProgramOptions options;
     options.data_folder = folder_ / L"data";
     options.locale = 1033;
-    options.install_shipped = false;
+    // Nothing is shipped, so that missing language files are generated.
+    options.shipped_dictionaries = options.shipped_languages = folder_ / L"nothing";
     program_ = std::make_unique<Program>(options, fakes_.ui);
 }
 
