@@ -2,11 +2,13 @@
 
 #include "platform/text.h"
 
+#include <algorithm>
+
 namespace wordhawk {
 namespace {
 
 std::wstring_view TakeArgument(std::wstring_view& rest) {
-    rest = Trim(rest);
+    rest.remove_prefix(std::min(rest.find_first_not_of(L" \t"), rest.size()));
     const std::wstring_view argument = rest.substr(0, rest.find_first_of(L" \t"));
     rest.remove_prefix(argument.size());
     return argument;

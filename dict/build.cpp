@@ -109,8 +109,6 @@ Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path
 
     if (!MakeFolder(output))
         return tl::unexpected(Error{L"the output folder cannot be made", output});
-    if (const Result<void> noted = WriteCodePageOfFolder(output, *options.page); !noted)
-        return tl::unexpected(noted.error());
     BuildReport report{0, 0, words.Skipped()};
     for (const auto& [name, bytes] : words.Files()) {
         const std::string sorted = dictionary_edit::SortedDistinct(bytes, *options.page);
@@ -121,6 +119,8 @@ Result<BuildReport> BuildDictionary(std::span<const Path> word_lists, const Path
         report.words += static_cast<std::size_t>(std::count(sorted.begin(), sorted.end(), '\n'));
         ++report.files;
     }
+    if (const Result<void> noted = WriteCodePageOfFolder(output, *options.page); !noted)
+        return tl::unexpected(noted.error());
     return report;
 }
 

@@ -132,8 +132,8 @@ TEST(EditPath, FindsTheCheapestWay) {
     EditPath<OddCosts> path(costs);
     for (int round = 0; round < 300; ++round) {
         // Another beginning and end, so that nothing is passed over as equal.
-        const std::string a = "a" + Narrow(random.Word(L"abc'", 1, 3)) + "a";
-        const std::string b = "b" + Narrow(random.Word(L"abc'", 1, 3)) + "c";
+        const std::string a = Narrow(L'a' + random.Word(L"abc'", 1, 3) + L'a');
+        const std::string b = Narrow(L'b' + random.Word(L"abc'", 1, 3) + L'c');
         const Spelling meant = spell(a);
         const Spelling written = spell(b);
         const float cost = path.Cost(meant, written);
