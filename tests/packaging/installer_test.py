@@ -50,8 +50,16 @@ class InstallerTest(unittest.TestCase):
 
     @classmethod
     def wine(cls, *arguments, **options):
-        options = {"capture_output": True, "timeout": 240, **options}
-        return subprocess.run(["wine", *map(str, arguments)], env=cls.environment, **options)
+        # Files, as Wine's own desktop would keep pipes open for as long as any program runs.
+        with tempfile.TemporaryFile() as output, tempfile.TemporaryFile() as errors:
+            done = subprocess.run(["wine", *map(str, arguments)], env=cls.environment,
+                                  stdout=output, stderr=errors, **{"timeout": 240, **options})
+            for stream in (output, errors):
+                stream.seek(0)
+            done.stdout, done.stderr = output.read(), errors.read()
+        if options.get("text"):
+            done.stdout, done.stderr = done.stdout.decode(), done.stderr.decode()
+        return done
 
     def install(self):
         return self.wine(self.setup, "/S").returncode
