@@ -106,4 +106,10 @@ std::wstring BuildDelimiters(const DelimiterFlagStore& flags, const AnsiCodePage
     return delimiters;
 }
 
+std::wstring WithoutLetters(std::wstring_view delimiters) {
+    std::wstring rest(delimiters);
+    std::erase_if(rest, [](wchar_t c) { return LowerChar(c) != UpperChar(c); });
+    return rest;
+}
+
 }  // namespace wordhawk

@@ -52,6 +52,9 @@ unsigned char DelimiterCodeOfFlag(int index);
 /// The characters whose flag is 1, in flag order, by their code in `page`.
 std::wstring BuildDelimiters(const DelimiterFlagStore& flags, const AnsiCodePage& page);
 
+/// `delimiters` without the letters among them: characters that have an upper and a lower case.
+std::wstring WithoutLetters(std::wstring_view delimiters);
+
 /// The delimiter set as a table over all UTF-16 units.
 class DelimiterSet {
   public:

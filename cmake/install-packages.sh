@@ -47,6 +47,7 @@ BUILD_PACKAGES="cmake ninja-build g++ python3
 # Sources of the shipped dictionaries (data/sources/README.md).
 WORD_LIST_PACKAGES="wamerican-large wbritish-large wngerman wfrench hunspell-es witalian hunspell-it
     wdutch wportuguese wbrazilian wdanish hunspell-sv wpolish
+    hunspell hunspell-da hunspell-de-de hunspell-fr hunspell-nl hunspell-pt-br hunspell-pt-pt
     onboard-data wamerican-small wbritish-small"
 # The cross build of the window, and what it runs with here.
 WINDOW_PACKAGES="g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 libwine
@@ -57,4 +58,4 @@ SCREEN_PACKAGES="xvfb xdotool imagemagick"
 DELIVERY_PACKAGES="nsis zip dpkg"
 # More compilers, and what the tests are run with.
 TEST_PACKAGES="$WINDOW_PACKAGES $SCREEN_PACKAGES $DELIVERY_PACKAGES googletest libgtest-dev libgmock-dev clang ccache git
-    emacs-nox vim procps"
+    emacs-nox vim procps parallel"

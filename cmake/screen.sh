@@ -56,7 +56,7 @@ open_window() {
     rm -rf "$3"
     mkdir -p "$3/data"
     cp "$2" "$copy"
-    printf '[Settings]\r\nSaveBack=1\r\n' >"$3/data/Wordhawk.ini"
+    printf '[Settings]\r\nSaveBack=1\r\nWideSearch=1\r\n' >"$3/data/Wordhawk.ini"
     WORDHAWK_DATA=$(windows_path "$3/data")
     export WORDHAWK_DATA
 
@@ -91,10 +91,16 @@ show_document() {
     close_window
 }
 
-# show_correction PROGRAM DOCUMENT FOLDER: as show_document, after changing the first word that has a
-# suggestion.
+# show_correction PROGRAM DOCUMENT FOLDER NAMES: as show_document, after ignoring so many words and
+# changing the first word then that has a suggestion.
 show_correction() {
     open_window "$@"
+    names=$4
+    while [ "$names" -gt 0 ]; do
+        xdotool key alt+g
+        settle "$picture"
+        names=$((names - 1))
+    done
     presses=0
     while :; do
         cp "$picture" "$picture.start"

@@ -2,8 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <memory>
-#include <numeric>
 #include <span>
 
 namespace wordhawk {
@@ -144,27 +142,24 @@ constexpr CaseRange kUpperRanges[] = {
 
 // clang-format on
 
-std::unique_ptr<CaseTable> MakeTable(std::span<const CaseRange> ranges) {
-    auto table = std::make_unique<CaseTable>();
-    std::iota(table->begin(), table->end(), std::uint16_t{0});
+constexpr CaseTable MakeTable(std::span<const CaseRange> ranges) {
+    CaseTable table{};
+    for (std::size_t c = 0; c < table.size(); ++c) table[c] = static_cast<std::uint16_t>(c);
     for (const CaseRange& range : ranges) {
-        for (unsigned c = range.first; c <= range.last; c += range.stride) {
-            (*table)[c] = static_cast<std::uint16_t>(static_cast<std::int32_t>(c) + range.delta);
-        }
+        for (unsigned c = range.first; c <= range.last; c += range.stride)
+            table[c] = static_cast<std::uint16_t>(static_cast<std::int32_t>(c) + range.delta);
     }
     return table;
 }
 
+// Made by the compiler: pages of the program's file that are never read cost a start nothing.
+constexpr CaseTable kLowerTable = MakeTable(kLowerRanges);
+constexpr CaseTable kUpperTable = MakeTable(kUpperRanges);
+
 }  // namespace
 
-const CaseTable& LowerTable() {
-    static const std::unique_ptr<CaseTable> table = MakeTable(kLowerRanges);
-    return *table;
-}
+const CaseTable& LowerTable() { return kLowerTable; }
 
-const CaseTable& UpperTable() {
-    static const std::unique_ptr<CaseTable> table = MakeTable(kUpperRanges);
-    return *table;
-}
+const CaseTable& UpperTable() { return kUpperTable; }
 
 }  // namespace wordhawk

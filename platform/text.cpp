@@ -232,7 +232,9 @@ AnsiCodePage::AnsiCodePage(int number) : number_(number) {
 const AnsiCodePage& AnsiCodePage::Get(int number) {
     static std::mutex mutex;
     static std::map<int, std::unique_ptr<AnsiCodePage>> pages;
-    if (number != 874 && (number < 1250 || number > 1258)) number = 1252;
+    const bool windows = number == 874 || (number >= 1250 && number <= 1258);
+    const bool others = number == 20866 || number == 21866 || (number > 28590 && number < 28606);
+    if (!windows && !others) number = 1252;
     const std::lock_guard lock(mutex);
     std::unique_ptr<AnsiCodePage>& page = pages[number];
     if (!page) page = std::make_unique<AnsiCodePage>(number);

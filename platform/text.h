@@ -43,7 +43,8 @@ std::wstring_view Trim(std::wstring_view text);
 /// 32 bits, is 0: this is how numbers in settings and dictionary lines are read.
 std::int32_t NumberOrZero(std::wstring_view text);
 
-/// A Windows single-byte code page (874, 1250 to 1258). Bytes that the page leaves undefined stand
+/// A single-byte code page by its Windows number: 874 and 1250 to 1258, in which dictionaries are
+/// kept; ISO 8859 (28591 to 28605) and KOI8 (20866, 21866), in which others' lists may be. Bytes that the page leaves undefined stand
 /// for the code point of the same number; a character that the page cannot hold becomes "?".
 class AnsiCodePage {
   public:

@@ -137,5 +137,26 @@ TEST(DelimiterFlags, TwoThatAreSavedInTurnKeepEachOthersChanges) {
     EXPECT_EQ(stored.Get(4), 1);
 }
 
+TEST(DelimiterFlags, LettersAmongTheDelimitersCanStayInTheirWords) {
+    const struct {
+        int page;
+        const wchar_t* letters;
+    } cases[] = {
+        {1252, L"\u0160\u0152\u017D\u0161\u0153\u00F8"},
+        {1250,
+         L"\u0160\u015A\u0164\u017D\u0179\u0161\u015B\u0165\u0141\u0104\u015E\u017B"
+         L"\u0142\u0105\u015F\u013D\u013E\u017C\u0159"},
+    };
+    for (const auto& c : cases) {
+        const std::wstring all = BuildDelimiters(DelimiterFlagStore(), AnsiCodePage::Get(c.page));
+        const std::wstring rest = WithoutLetters(all);
+        const std::wstring letters = c.letters;
+        EXPECT_EQ(rest.size() + letters.size(), all.size()) << c.page;
+        EXPECT_EQ(rest.find_first_of(letters), std::wstring::npos) << c.page;
+        for (const wchar_t kept : {L'\t', L'-', L'.', L'\u00A0', L'\u2019', L'\u00D7'})
+            EXPECT_NE(rest.find(kept), std::wstring::npos) << c.page;
+    }
+}
+
 }  // namespace
 }  // namespace wordhawk

@@ -11,12 +11,9 @@
 namespace wordhawk {
 namespace {
 
+using test::CountEntries;
 using test::ReadBytes;
 using test::WriteBytes;
-
-std::size_t CountEntries(const Path& folder) {
-    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
-}
 
 TEST(ReplaceFile, MakesAndReplaces) {
     const test::TempDir folder;

@@ -1,12 +1,14 @@
 #!/usr/bin/env python3
-"""Looks at the headers of built programs: the defences that the system offers must be switched on, and
-a Windows program may import only libraries that nobody can put beside it.
+"""Looks at the headers of built programs: the defences that the system offers must be switched on, a
+Windows program may import only libraries that nobody can put beside it, and no program may call what
+starts another one, so that no name and no text can ever be run.
 
 check_binaries.py [--protected] PROGRAM...     --protected: their stacks must be guarded as well
 """
 
 import argparse
 import pathlib
+import re
 import struct
 import sys
 
@@ -15,8 +17,15 @@ import sys
 KNOWN_LIBRARIES = {"advapi32.dll", "combase.dll", "comctl32.dll", "comdlg32.dll", "gdi32.dll", "kernel32.dll",
                    "msvcrt.dll", "ole32.dll", "oleaut32.dll", "rpcrt4.dll", "sechost.dll", "shell32.dll",
                    "shlwapi.dll", "user32.dll"}
+STARTS_PROGRAMS = re.compile(r"(CreateProcess|ShellExecute|WinExec|LoadModule)\w*|_?w?(system|popen|spawn\w*)|"
+                             r"_?w?exec[lv][a-z]*|posix_spawnp?|v?fork|clone")
 DLL_CHARACTERISTICS = {0x20: "addresses of 64 bits (--high-entropy-va)", 0x40: "moved addresses (--dynamicbase)",
                        0x100: "data that is not code (--nxcompat)"}
+
+
+def starters(functions):
+    for function in filter(STARTS_PROGRAMS.fullmatch, functions):
+        yield f"can start programs by {function}"
 
 
 class PortableExecutable:
@@ -47,12 +56,19 @@ class PortableExecutable:
         return self.data[at:self.data.index(b"\0", at)].decode("ascii")
 
     def imports(self):
+        """(library, [function...]) in lower and in its own case; a function known by number is left out."""
         at = self.offset(self.directory(1)[0])
         while True:
-            name = struct.unpack_from("<I", self.data, at + 12)[0]
+            names, name = struct.unpack_from("<I8xI", self.data, at)
             if name == 0:
                 return
-            yield self.text(name).lower()
+            functions = []
+            thunk = self.offset(names)
+            while entry := struct.unpack_from("<Q", self.data, thunk)[0]:
+                if not entry >> 63:
+                    functions.append(self.text(entry + 2))
+                thunk += 8
+            yield self.text(name).lower(), functions
             at += 20
 
     def problems(self):
@@ -62,14 +78,15 @@ class PortableExecutable:
                 yield "without " + meaning
         if self.directory(5)[1] == 0:
             yield "without relocations, so that it cannot be moved"
-        for library in self.imports():
+        for library, functions in self.imports():
             if library not in KNOWN_LIBRARIES:
                 yield f"imports {library}, which is looked for beside the program first (use SystemFunction)"
+            yield from starters(functions)
 
 
 class Elf:
     DYNAMIC, INTERPRETER, STACK, RELRO = 2, 3, 0x6474E551, 0x6474E552
-    FLAGS, FLAGS_1 = 30, 0x6FFFFFFB
+    STRINGS, SYMBOLS, FLAGS, FLAGS_1 = 5, 6, 30, 0x6FFFFFFB
 
     def __init__(self, data):
         if data[4:6] != b"\2\1":
@@ -86,6 +103,15 @@ class Elf:
         _, offset, length = self.segments.get(self.DYNAMIC, (0, 0, 0))
         return dict(struct.unpack_from("<QQ", self.data, offset + i) for i in range(0, length, 16))
 
+    def imports(self, dynamic):
+        """Names that others define. Both tables lie in the first loaded part, whose addresses are places
+        in the file, and the names follow the symbols."""
+        symbols, strings = dynamic[self.SYMBOLS], dynamic[self.STRINGS]
+        for at in range(symbols + 24, strings - 23, 24):
+            name, defined = struct.unpack_from("<I2xH", self.data, at)
+            if not defined:
+                yield self.data[strings + name:self.data.index(b"\0", strings + name)].decode("ascii")
+
     def problems(self):
         dynamic = self.dynamic()
         if self.type != 3 or self.INTERPRETER not in self.segments:
@@ -96,6 +122,7 @@ class Elf:
             yield "functions are bound late (-z now)"
         if self.segments.get(self.STACK, (1,))[0] & 1:
             yield "the stack is code (-z noexecstack)"
+        yield from starters(self.imports(dynamic))
 
 
 def problems_of(path, protected):

@@ -6,9 +6,9 @@ header compiles alone. Run from anywhere; prints one line a rule."""
 import argparse
 import os
 import re
+import shutil
 import subprocess
 import sys
-import tempfile
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 from xml.sax.saxutils import quoteattr
@@ -141,16 +141,21 @@ def guards(files):
             yield f"{name} has no #pragma once"
 
 
-def compile_alone(name, links):
+def compile_alone(name, scratch):
     """The compiler's complaint about a header that stands alone, or None."""
     if name.startswith(WINDOWS_ONLY):
         command = ["x86_64-w64-mingw32-g++-posix", "-DUNICODE", "-D_UNICODE", "-DNOMINMAX", "-DSTRICT",
-                   "-DWIN32_LEAN_AND_MEAN", "-D_WIN32_WINNT=0x0A00", "-DWINVER=0x0A00", "-isystem", links]
+                   "-DWIN32_LEAN_AND_MEAN", "-D_WIN32_WINNT=0x0A00", "-DWINVER=0x0A00", "-isystem", "libraries"]
     else:
         command = ["g++"]
-    command += ["-std=c++20", "-Wall", "-Wextra", "-Wpedantic", "-fsyntax-only", f"-I{ROOT}",
-                "-x", "c++", "-include", name, "/dev/null"]
-    ran = subprocess.run(command, cwd=ROOT, capture_output=True, text=True)
+    stem = name.replace("/", "+").removesuffix(".h")
+    (scratch / f"{stem}.cpp").write_text(f'#include "{name}"\n', encoding="ascii")
+    # Compiled like any other file, so that ccache knows the answer while nothing that it includes changes.
+    command += ["-std=c++20", "-Wall", "-Wextra", "-Wpedantic", f"-I{ROOT}", "-MD",
+                "-c", f"{stem}.cpp", "-o", f"{stem}.o"]
+    cache = shutil.which("ccache")
+    ran = subprocess.run(([cache] if cache else []) + command, cwd=scratch, capture_output=True, text=True,
+                         env=os.environ | {"CCACHE_BASEDIR": str(ROOT), "CCACHE_NOHASHDIR": "1"})
     if ran.returncode == 0 and not ran.stderr:
         return None
     complaints = [line for line in ran.stderr.splitlines() if "error:" in line or "warning:" in line]
@@ -160,14 +165,17 @@ def compile_alone(name, links):
 def headers_alone(files):
     """Every header brings what it needs."""
     headers = [name for name in files if name.endswith(".h") and not name.endswith("resource.h")]
-    with tempfile.TemporaryDirectory() as links:
-        # The cross compiler must not see /usr/include, only the header-only libraries in it.
-        for library in ("CLI", "tl", "gtest", "gmock"):
-            os.symlink(f"/usr/include/{library}", f"{links}/{library}")
-        with ThreadPoolExecutor(os.cpu_count()) as pool:
-            for complaint in pool.map(lambda name: compile_alone(name, links), headers):
-                if complaint:
-                    yield complaint
+    scratch = ROOT / "build" / "headers-alone"
+    # The cross compiler must not see /usr/include, only the header-only libraries in it.
+    (scratch / "libraries").mkdir(parents=True, exist_ok=True)
+    for library in ("CLI", "tl", "gtest", "gmock"):
+        link = scratch / "libraries" / library
+        if not link.is_symlink():
+            link.symlink_to(f"/usr/include/{library}")
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        for complaint in pool.map(lambda name: compile_alone(name, scratch), headers):
+            if complaint:
+                yield complaint
 
 
 RULES = (arrows, rooms, system_headers, wide_functions, lengths, guards, headers_alone)

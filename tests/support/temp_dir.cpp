@@ -5,6 +5,7 @@
 #include <atomic>
 #include <chrono>
 #include <fstream>
+#include <iterator>
 #include <random>
 #include <system_error>
 
@@ -32,6 +33,10 @@ void WriteBytes(const Path& path, std::string_view bytes) {
 std::string ReadBytes(const Path& path) {
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::size_t CountEntries(const Path& folder) {
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
 }
 
 }  // namespace wordhawk::test

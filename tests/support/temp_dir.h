@@ -28,4 +28,7 @@ void WriteBytes(const Path& path, std::string_view bytes);
 /// The file's bytes; empty when it is missing.
 std::string ReadBytes(const Path& path);
 
+/// How many files and folders lie directly in a folder.
+std::size_t CountEntries(const Path& folder);
+
 }  // namespace wordhawk::test

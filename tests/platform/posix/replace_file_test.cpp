@@ -17,12 +17,9 @@
 namespace wordhawk {
 namespace {
 
+using test::CountEntries;
 using test::ReadBytes;
 using test::WriteBytes;
-
-std::size_t CountEntries(const Path& folder) {
-    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
-}
 
 TEST(PosixReplaceFile, PermissionBitsStay) {
     const test::TempDir folder;
