@@ -26,6 +26,9 @@ constexpr std::size_t kMostIndexedBytes = std::numeric_limits<std::uint32_t>::ma
 /// A word of eight or nine letters, comma, key and line end; only room is reserved by it.
 constexpr std::size_t kUsualEntryBytes = 16;
 
+/// Making the index takes about as long as so many look-ups without it.
+constexpr int kAskedBeforeIndex = 5;
+
 /// The byte behind the first LF from `at` on, or `end`.
 const char* BehindNextLineFeed(const char* at, const char* end) {
     // Mostly a comma, five digits, CR and LF: within one word of the machine.
@@ -49,7 +52,7 @@ bool HoldsPattern(std::string_view bytes, std::string_view pattern) {
 }
 
 /// The lookup by its definition, for the words and files that the index does not cover and for the
-/// first word asked of a file, which alone is not worth an index.
+/// first words asked of a file, which are not worth an index.
 bool FoundInBytes(std::string_view bytes, std::string_view word, EntryForms forms) {
     std::string pattern;
     pattern.reserve(word.size() + 2);
@@ -74,8 +77,8 @@ bool DictionaryFile::Contains(std::string_view word, EntryForms forms) const {
 bool DictionaryFile::ContainsHashed(std::string_view word, std::uint32_t hash,
                                     EntryForms forms) const {
     if (!indexed_) {
-        if (!asked_) {
-            asked_ = true;
+        if (asked_ < kAskedBeforeIndex) {
+            ++asked_;
             return FoundInBytes(bytes_, word, forms);
         }
         BuildIndex();

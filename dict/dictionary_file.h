@@ -116,7 +116,7 @@ class DictionaryFile {
     bool Holds(const Slot& slot, std::string_view word) const;
 
     std::string bytes_;
-    mutable bool asked_ = false;
+    mutable std::uint8_t asked_ = 0;
     mutable bool indexed_ = false;
     /// A power of two of slots, at most half of them taken.
     mutable std::vector<Slot> slots_;

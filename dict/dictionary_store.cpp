@@ -41,11 +41,19 @@ bool DictionaryStore::IsWordInDictionaries(std::wstring_view word, Scope scope) 
             first, lower_bytes_.size() > 1 ? static_cast<unsigned char>(lower_bytes_[1]) : first);
     }
     if (file->Contains(lower_bytes_, EntryForms::KeyedOnly)) return true;
+    if (IsInPackExtras(lower_bytes_)) return true;
     return scope == Scope::MainAndCustom && IsInCustomFiles(lower_bytes_);
 }
 
 bool DictionaryStore::IsWordInCustomDictionaries(std::wstring_view word) {
     return !word.empty() && IsInCustomFiles(Page().Encode(Lower(word)));
+}
+
+bool DictionaryStore::IsInPackExtras(std::string_view lower_bytes) {
+    if (!extras_) extras_.emplace(state_.LanguageDictFolder, unreadable_);
+    const bool words_stay_whole = settings_.LettersStay != 0 && settings_.StraightApostrophe != 0;
+    if (!words_stay_whole && extras_->IsPiece(lower_bytes)) return true;
+    return settings_.Compounds != 0 && extras_->IsCompound(lower_bytes);
 }
 
 bool DictionaryStore::IsInCustomFiles(std::string_view lower_bytes) {
@@ -59,6 +67,7 @@ void DictionaryStore::SyncWithState() {
     if (table_page_ == state_.CodePage && table_folder_ == state_.LanguageDictFolder.native())
         return;
     for (std::unique_ptr<Row>& row : by_first_bytes_) row.reset();
+    extras_.reset();
     table_page_ = state_.CodePage;
     table_folder_ = state_.LanguageDictFolder.native();
 }
@@ -161,7 +170,17 @@ DictionaryStore::Loaded& DictionaryStore::LoadCustom(Custom& custom) {
     return custom.content;
 }
 
+const ForbiddenWords& DictionaryStore::Forbidden() {
+    const Path path = ForbiddenPath();
+    if (forbidden_from_ == path) return forbidden_;
+    forbidden_from_ = path;
+    const Loaded loaded = Read(path);
+    forbidden_ = ForbiddenWords(loaded.file.Bytes(), Page());
+    return forbidden_;
+}
+
 void DictionaryStore::ReloadCustomDictionaries() {
+    forbidden_from_.clear();
     SyncCustomSet();
     for (Custom& custom : custom_) {
         custom.is_loaded = false;

@@ -3,9 +3,12 @@
 #include "app/modRegs.h"
 #include "app/program_state.h"
 #include "dict/dictionary_file.h"
+#include "dict/forbidden_words.h"
+#include "dict/pack_extras.h"
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -27,7 +30,10 @@ class DictionaryStore {
     DictionaryStore(const DictionaryStore&) = delete;
     DictionaryStore& operator=(const DictionaryStore&) = delete;
 
-    /// Whether the word is in the main dictionary or, unless MainOnly, in a custom one.
+    /// Whether the word is in the main dictionary or, unless MainOnly, in a custom one. Pieces of
+    /// the main dictionary's words count unless letters and apostrophes stay in their words
+    /// (settings LettersStay, StraightApostrophe), compounds of them where setting Compounds says
+    /// so.
     bool IsWordInDictionaries(std::wstring_view word, Scope scope);
     bool IsWordInCustomDictionaries(std::wstring_view word);
 
@@ -60,7 +66,11 @@ class DictionaryStore {
     /// The dictionary that Add writes to; an empty setting becomes CUSTOM.DIC first.
     Path ActiveCustomPath();
 
-    /// Drops every custom dictionary's bytes and reads the files again.
+    /// The words that are always flagged; read when first asked for. The object stays where it is.
+    const ForbiddenWords& Forbidden();
+    Path ForbiddenPath() const { return state_.CustomFolder() / ForbiddenWords::kFileName; }
+
+    /// Drops every custom dictionary's bytes, the forbidden words too, and reads the files again.
     void ReloadCustomDictionaries();
     /// Reads one file again if it is cached (main) or listed (custom): called after it was
     /// rewritten.
@@ -93,6 +103,7 @@ class DictionaryStore {
     void SyncCustomSet();
     Loaded& LoadCustom(Custom& custom);
     bool IsInCustomFiles(std::string_view lower_bytes);
+    bool IsInPackExtras(std::string_view lower_bytes);
 
     ProgramState& state_;
     Settings& settings_;
@@ -105,6 +116,11 @@ class DictionaryStore {
     std::vector<Custom> custom_;
     Path::string_type custom_data_folder_;
     std::vector<Error> unreadable_;
+    ForbiddenWords forbidden_;
+    /// The file that they were read from; empty before.
+    Path forbidden_from_;
+    /// Of the folder above.
+    std::optional<PackExtras> extras_;
     /// The word being looked up, kept for its memory.
     std::string lower_bytes_;
 };

@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
 """Writes how common the words of a finished dictionary are.
 
-    frequencies.py --dictionary FOLDER --code-page N [--common LIST] MODEL...
+    frequencies.py --dictionary FOLDER --code-page N [--common LIST] [--pairs LIST] MODEL...
 
 FOLDER gets frequencies.txt: lines of word, blank, count in UTF-8, ascending. The counts come from the word
 models of Debian's onboard-data (where several have a word, the highest); capitals count with their lower
 case. A form that no model has, but whose stem one has, gets a small share of the stem's count. With a LIST of
 a language's common words, all others count a tenth: names and terms, which the models have many of, are
-seldom what a writer meant.
+seldom what a writer meant. PAIRS are two words each that are often written as one; they get lines as well,
+with the count of the rarer word.
 """
 
 import argparse
@@ -70,6 +71,7 @@ def main():
     parser.add_argument("--dictionary", type=Path, required=True)
     parser.add_argument("--code-page", type=int, default=1252)
     parser.add_argument("--common")
+    parser.add_argument("--pairs")
     parser.add_argument("models", nargs="+")
     arguments = parser.parse_args()
     counts = counts_of(arguments.models)
@@ -83,6 +85,9 @@ def main():
             count = max(count, LEAST_OF_COMMON) if word in common else int(count * SHARE_OF_UNCOMMON)
         if count:
             lines.append(f"{word} {count}\n")
+    for pair in read_words(arguments.pairs) if arguments.pairs else ():
+        count = min(counts.get(word, 0) for word in pair.split())
+        lines.append(f"{pair} {max(count, LEAST_SHARE)}\n")
     target = arguments.dictionary / "frequencies.txt"
     target.write_text("".join(sorted(lines)), encoding="utf-8", newline="")
 

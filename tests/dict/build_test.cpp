@@ -1,6 +1,7 @@
 #include "dict/build.h"
 
 #include "dict/dictionary_file.h"
+#include "dict/pack_extras.h"
 #include "tests/support/temp_dir.h"
 
 #include <gtest/gtest.h>
@@ -58,16 +59,59 @@ TEST(BuildDictionary, LeavesOutWhatIsExcludedOrCannotBeHeld) {
               "\xE4\xE0,19600\r\n");
 }
 
-TEST(BuildDictionary, WritesThePiecesOfAWordAsWell) {
+TEST(BuildDictionary, CutsWordsAsTheirReaderWill) {
     TempDir temp;
     const Path list = temp / L"list.txt";
-    WriteBytes(list, "isn't\nx-ray\no'er-all\n");
+    const Path stems = temp / L"stems.txt";
+    WriteBytes(list,
+               "isn't\nx-ray\no'er-all\nr\xC3\xB8"
+               "d-hat\n");
+    WriteBytes(stems, "Couldn\n");
     BuildOptions options;
-    options.piece_delimiters = L"'-";
+    options.cuts = L"-";
+    options.letter_cuts = L"'\u00F8";
+    options.piece_lists = {stems};
     const Result<BuildReport> report = BuildDictionary({&list, 1}, temp / L"out", options);
     ASSERT_TRUE(report);
-    EXPECT_EQ(report->words, 7u) << "isn't isn x-ray ray o'er-all er all; no single letters";
-    EXPECT_EQ(ReadBytes(temp / L"out" / "is_.dic"), "isn't,73253\r\nisn,73250\r\n");
+    EXPECT_EQ(report->words, 9u)
+        << "isn't x-ray ray o'er-all o'er all and r\u00F8d-hat r\u00F8d hat";
+    EXPECT_EQ(ReadBytes(temp / L"out" / "is_.dic"), "isn't,73253\r\n");
+    EXPECT_EQ(ReadBytes(temp / L"out" / kPiecesFile),
+              "all,0\r\ncouldn,0\r\ner,0\r\nhat,0\r\nisn,0\r\n")
+        << "no single letters";
+}
+
+TEST(BuildDictionary, SpellsOutHunspellDictionaries) {
+    TempDir temp;
+    const Path dictionary = temp / L"xx.dic";
+    WriteBytes(
+        temp / L"xx.aff",
+        "SET UTF-8\nCOMPOUNDBEGIN B\nCOMPOUNDEND E\nSFX S Y 2\nSFX S 0 s .\nSFX S 0 -lo .\n");
+    WriteBytes(dictionary, "2\nhouse/SBE\nWell-Known/S\n");
+    BuildOptions options;
+    options.cuts = L"-";
+    options.hunspell_dictionaries = {dictionary};
+    ASSERT_TRUE(BuildDictionary({}, temp / L"out", options));
+    EXPECT_EQ(ReadBytes(temp / L"out" / "ho_.dic"), "house,72000\r\nhouses,72000\r\n")
+        << "of what endings join by a hyphen the parts alone";
+    EXPECT_EQ(ReadBytes(temp / L"out" / "we_.dic"), "well,87400\r\nwell-known,87425\r\n");
+    EXPECT_EQ(ReadBytes(temp / L"out" / kCompoundsFile), "house,10\r\nhouses,8\r\n");
+}
+
+TEST(BuildDictionary, LeavesOutWhatWouldHideSlips) {
+    TempDir temp;
+    const Path list = temp / L"list.txt";
+    const Path in_use = temp / L"in-use.txt";
+    WriteBytes(list, "for\nfo\nfort\nFoe\nForde\nFordes\nUno\nlong-forde\nzyx\n");
+    WriteBytes(in_use, "for\nfort\nuno\n");
+    BuildOptions options;
+    options.cuts = L"-";
+    options.in_use = *UsageList::Read(in_use);
+    ASSERT_TRUE(BuildDictionary({&list, 1}, temp / L"out", options));
+    EXPECT_EQ(ReadBytes(temp / L"out" / "fo_.dic"), "for,70600\r\nfordes,70632\r\nfort,70630\r\n")
+        << "no rare short word one letter from a common one, no short name that nobody uses";
+    EXPECT_NE(ReadBytes(temp / L"out" / "un_.dic"), "") << "a short name in use";
+    EXPECT_NE(ReadBytes(temp / L"out" / "zy_.dic"), "") << "rare, and near nothing";
 }
 
 TEST(BuildDictionary, SaysWhichFileFailed) {

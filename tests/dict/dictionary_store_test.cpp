@@ -41,6 +41,29 @@ TEST(DictionaryStore, LooksInCustomDictionariesUnlessMainOnly) {
     EXPECT_EQ(data.store.CustomCount(), 1u);
 }
 
+TEST(DictionaryStore, KnowsPiecesAndCompoundsAsTheSettingsSay) {
+    Dictionaries data;
+    data.WriteMain({L"isn't"});
+    WriteBytes(data.state.LanguageDictFolder / kPiecesFile, "isn,0\r\n");
+    WriteBytes(data.state.LanguageDictFolder / kCompoundsFile, "arbeits,2\r\nzimmer,8\r\n");
+    const struct {
+        std::uint8_t letters_stay, straight_apostrophe, compounds;
+        bool piece, compound;
+    } cases[] = {{0, 0, 0, true, false},
+                 {1, 0, 0, true, false},
+                 {0, 1, 1, true, true},
+                 {1, 1, 0, false, false},
+                 {1, 1, 1, false, true}};
+    for (const auto& c : cases) {
+        data.settings.LettersStay = c.letters_stay;
+        data.settings.StraightApostrophe = c.straight_apostrophe;
+        data.settings.Compounds = c.compounds;
+        EXPECT_EQ(data.store.IsWordInDictionaries(L"Isn", Scope::MainOnly), c.piece);
+        EXPECT_EQ(data.store.IsWordInDictionaries(L"ARBEITSZIMMER", Scope::MainOnly), c.compound);
+        EXPECT_TRUE(data.store.IsWordInDictionaries(L"isn't", Scope::MainOnly));
+    }
+}
+
 TEST(DictionaryStore, EmptyNamesMeanTheDefaultDictionary) {
     Dictionaries data;
     data.WriteCustom(L"CUSTOM.DIC", "widget,87300\r\n");
@@ -159,20 +182,23 @@ TEST(DictionaryStore, TellsOfFilesThatCannotBeRead) {
     const Path custom = data.state.CustomFolder() / "CUSTOM.DIC";
     data.store.IsWordInDictionaries(L"hello", Scope::MainAndCustom);
     EXPECT_TRUE(data.store.Unreadable().empty()) << "missing files are no error";
-    for (const Path& file : {main, custom}) {
+    data.settings.Compounds = 1;
+    const Path compounds = data.state.LanguageDictFolder / kCompoundsFile;
+    for (const Path& file : {main, compounds, custom}) {
         // A folder in a file's place stands for whatever the system refuses to read.
         std::filesystem::create_directories(file);
         data.store.ReloadFile(file);
     }
     data.store.IsWordInDictionaries(L"hello", Scope::MainAndCustom);
     data.store.IsWordInDictionaries(L"help", Scope::MainAndCustom);
-    ASSERT_EQ(data.store.Unreadable().size(), 2u);
+    ASSERT_EQ(data.store.Unreadable().size(), 3u);
     EXPECT_EQ(data.store.Unreadable()[0].where, main);
-    EXPECT_EQ(data.store.Unreadable()[1].where, custom);
+    EXPECT_EQ(data.store.Unreadable()[1].where, compounds);
+    EXPECT_EQ(data.store.Unreadable()[2].where, custom);
     std::filesystem::remove(main);
     test::WriteBytes(main, "hello,72400\r\n");
     data.store.ReloadFile(main);
-    EXPECT_EQ(data.store.Unreadable().size(), 1u) << "it can be read again";
+    EXPECT_EQ(data.store.Unreadable().size(), 2u) << "it can be read again";
     EXPECT_TRUE(data.store.IsWordInDictionaries(L"hello", Scope::MainOnly));
 }
 

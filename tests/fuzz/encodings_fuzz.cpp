@@ -41,7 +41,7 @@ TEST(EncodingsFuzz, WhatIsSavedIsReadBackAsTheSame) {
         Random random(test::Seed() + round);
         const AnsiCodePage& page = AnsiCodePage::Get(kPages[random.Below(4)]);
         const std::string bytes = RandomBytes(random);
-        SCOPED_TRACE("round " + std::to_string(round) + " " + testing::PrintToString(bytes));
+        const test::Input input(round, bytes);
         ASSERT_EQ(page.Encode(page.Decode(bytes)), bytes) << "a page loses no byte";
         ASSERT_TRUE(IsUtf8(ToUtf8(FromUtf8(bytes))));
         if (IsUtf8(bytes)) {

@@ -68,7 +68,7 @@ TEST(ProfileFuzz, AChangeIsFoundAgainAndLeavesTheOtherLines) {
         Random random(test::Seed() + round);
         const AnsiCodePage& page = AnsiCodePage::Get(kPages[random.Below(4)]);
         const std::string bytes = RandomProfile(random);
-        SCOPED_TRACE("round " + std::to_string(round) + " " + testing::PrintToString(bytes));
+        const test::Input input(round, bytes);
         ProfileText text(bytes, page);
         const bool whole_units = !bytes.starts_with("\xFF\xFE") || bytes.size() % 2 == 0;
         if (whole_units) {

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <cstdlib>
+#include <string>
 
 namespace wordhawk::test {
 
@@ -17,5 +20,21 @@ inline std::uint32_t Seed() {
     const char* const asked = std::getenv("WORDHAWK_FUZZ_SEED");
     return asked != nullptr ? static_cast<std::uint32_t>(std::atol(asked)) : 0u;
 }
+
+/// Names the input of a round that failed, when the round ends; costs nothing in the others.
+class Input {
+  public:
+    Input(std::uint32_t round, const std::string& bytes) : round_(round), bytes_(bytes) {}
+    Input(const Input&) = delete;
+    Input& operator=(const Input&) = delete;
+    ~Input() {
+        if (testing::Test::HasFailure())
+            ADD_FAILURE() << "round " << round_ << " " << testing::PrintToString(bytes_);
+    }
+
+  private:
+    std::uint32_t round_;
+    const std::string& bytes_;
+};
 
 }  // namespace wordhawk::test
