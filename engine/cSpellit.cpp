@@ -2,6 +2,7 @@
 
 #include "app/modValidations.h"
 #include "app/version.h"
+#include "engine/document/line_ends.h"
 #include "engine/document/rtf_text.h"
 #include "engine/document/text_exchange.h"
 #include "platform/folders.h"
@@ -45,7 +46,7 @@ void HandOver(const Outcome& outcome, CheckWindow& window, Caller caller, std::w
         const std::wstring before = outcome.from_file ? std::wstring() : std::move(text);
         text = outcome.is_rich_string && window.Form() == TextForm::Rich
                    ? TextOfRtfBytes(window.RichText())
-                   : WithLineEndsOf(before, window.Text());
+                   : LineEndMemory(before).Restore(window.Text());
     }
     bool arrived = caller == Caller::Waits;
     // The file it came from is what an unchanged text would be written to: it is that already.

@@ -1,5 +1,6 @@
 #include "engine/install.h"
 
+#include "dict/pack_update.h"
 #include "engine/shipped_dictionaries.h"
 #include "platform/single_writer.h"
 
@@ -33,9 +34,14 @@ Result<bool> InstallShippedDictionaries(const ProgramState& state, const Path& s
     const Path target = state.LanguageDictFolder.has_filename()
                             ? state.LanguageDictFolder
                             : state.LanguageDictFolder.parent_path();
-    if (HasDictionary(target)) return true;
     const int pack = ShippedPackOf(NumberOrZero(state.LanguageId));
     const Path source = shipped / std::to_string(pack);
+    if (HasDictionary(target)) {
+        if (pack == 0 || !IsOtherPack(target, source)) return true;
+        const Result<void> updated = UpdatePack(target, source);
+        if (!updated) return tl::unexpected(updated.error());
+        return true;
+    }
     if (pack == 0 || !HasDictionary(source)) return false;
 
     const auto only_writer = SingleWriter::Acquire(target.parent_path());

@@ -27,6 +27,8 @@ Program::Program(ProgramOptions options, UiServices& services)
     state.CodePage = state.SystemPage;
 
     PrepareFolders(state);
+    // Whoever made this says so and ends; what follows would go into the current folder.
+    if (!state.FoldersReady) return;
     InstallLanguages();
     modRcLangs::InitLanguage(state, ui, LanguageFiles());
     OverrideLanguage();

@@ -25,6 +25,7 @@ void Split(std::wstring_view text, std::wstring_view separator, Take&& take) {
 std::wstring ReplaceDelimiters(std::wstring_view text, const SplitRules& rules,
                                std::wstring_view replacement, Progress& progress) {
     std::wstring result = rules.ignore_webs ? RemoveWebAddresses(text) : std::wstring(text);
+    if (rules.straight_apostrophe) result = WithStraightApostrophes(std::move(result));
     for (std::size_t i = 0; i < rules.delimiters.size(); ++i) {
         const wchar_t delimiter = rules.delimiters[i];
         if (result.find(delimiter) != std::wstring::npos) {

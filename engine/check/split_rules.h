@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/apostrophes.h"
+#include "app/delimiter_flags.h"
 #include "app/modRegs.h"
 #include "app/program_state.h"
 
@@ -13,10 +15,16 @@ struct SplitRules {
     bool ignore_webs = true;
     bool ignore_numbers = true;
     bool ignore_upper_case = true;
+    /// The typographic apostrophe reads as the straight one.
+    bool straight_apostrophe = false;
 
     static SplitRules From(const ProgramState& state, const Settings& settings) {
-        return {state.Delimiters, settings.IgnoreWebs != 0, settings.IgnoreNumbers != 0,
-                settings.IgnoreUCase != 0};
+        SplitRules rules{
+            settings.LettersStay != 0 ? WithoutLetters(state.Delimiters) : state.Delimiters,
+            settings.IgnoreWebs != 0, settings.IgnoreNumbers != 0, settings.IgnoreUCase != 0,
+            settings.StraightApostrophe != 0};
+        if (rules.straight_apostrophe) std::erase(rules.delimiters, kTypographicApostrophe);
+        return rules;
     }
 };
 

@@ -17,9 +17,14 @@ TextChecker::TextChecker(DictionaryStore& store, const SplitRules& rules, Rememb
     : store_(store),
       remember_(remember),
       scope_(store.CurrentSettings().SuggFromMain != 0 ? Scope::MainOnly : Scope::MainAndCustom),
+      straight_apostrophe_(rules.straight_apostrophe),
       scanner_(rules, store.Page()) {
     // The quick look goes past the store's own check for a changed language.
     store_.SyncWithState();
+    for (const ForbiddenWords::Entry& entry : store.Forbidden().Entries()) {
+        const int byte = store.Page().ToByteOrNone(entry.word.front());
+        if (byte >= 0) may_be_forbidden_[static_cast<std::size_t>(byte)] = true;
+    }
 }
 
 std::unique_ptr<PackedWord[], TextChecker::Free> TextChecker::MakeRecent() {
@@ -27,6 +32,16 @@ std::unique_ptr<PackedWord[], TextChecker::Free> TextChecker::MakeRecent() {
     void* const zeroed = std::calloc(std::size_t{1} << kRecentBits, sizeof(PackedWord));
     if (zeroed == nullptr) throw std::bad_alloc();
     return std::unique_ptr<PackedWord[], Free>(static_cast<PackedWord*>(zeroed));
+}
+
+bool TextChecker::IsKnown(const std::wstring& lower_word) {
+    if (store_.Forbidden().Find(lower_word) != nullptr) return false;
+    const bool typographic =
+        straight_apostrophe_ && lower_word.find(kTypographicApostrophe) != std::wstring::npos;
+    if (typographic && store_.IsWordInDictionaries(WithStraightApostrophes(lower_word), scope_)) {
+        return true;
+    }
+    return store_.IsWordInDictionaries(lower_word, scope_);
 }
 
 TextChecker::Verdict TextChecker::Judge(std::wstring_view text) {
@@ -37,7 +52,7 @@ TextChecker::Verdict TextChecker::Judge(std::wstring_view text) {
 
     std::int64_t index = -1;
     bool passing = true;
-    if (!store_.IsWordInDictionaries(lower_, scope_)) {
+    if (!IsKnown(lower_)) {
         index = 0;
         if (remember_ == Remember::All) {
             index = static_cast<std::int64_t>(words_.size());

@@ -3,6 +3,7 @@
 #include "dict/dictionary_store.h"
 #include "engine/check/word_scanner.h"
 
+#include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -42,7 +43,7 @@ class TextChecker {
     template <class Sink>
     void Feed(std::wstring_view block, Sink&& sink) {
         scanner_.Scan(block, [&](const ScannedWord& word) {
-            if (!word.bytes.empty() && IsInMain(word)) return;
+            if (IsKnownAtOnce(word)) return;
             const Verdict verdict = Judge(word.text);
             if (verdict.index >= 0) {
                 sink(UnknownWord{static_cast<std::size_t>(verdict.index), verdict.is_new, lower_,
@@ -55,15 +56,23 @@ class TextChecker {
     template <class Sink>
     void FeedAll(std::wstring_view block, Sink&& sink) {
         scanner_.Scan(block, [&](const ScannedWord& word) {
-            sink(word, (!word.bytes.empty() && IsInMain(word)) || Judge(word.text).index < 0);
+            sink(word, IsKnownAtOnce(word) || Judge(word.text).index < 0);
         });
     }
+
+    /// UTF-16 units that were fed so far.
+    std::uint64_t Consumed() const { return scanner_.Consumed(); }
 
     /// The distinct unknown words so far, in the order in which they were met; none when they are
     /// remembered only lately.
     const std::vector<std::wstring>& Words() const { return words_; }
 
   private:
+    /// Whether the quick look does for the word and finds it.
+    bool IsKnownAtOnce(const ScannedWord& word) {
+        return !word.bytes.empty() &&
+               !may_be_forbidden_[static_cast<unsigned char>(word.bytes[0])] && IsInMain(word);
+    }
     bool IsInMain(const ScannedWord& word) {
         const bool packs = word.packed != PackedWord{};
         PackedWord& recent = recent_[(word.packed.low ^ word.packed.high) * 0x9E3779B97F4A7C15u >>
@@ -85,6 +94,7 @@ class TextChecker {
     };
     /// Leaves the lower-cased word in `lower_`.
     Verdict Judge(std::wstring_view text);
+    bool IsKnown(const std::wstring& lower_word);
     void ForgetOldVerdicts();
 
     struct Hash {
@@ -107,6 +117,9 @@ class TextChecker {
     DictionaryStore& store_;
     Remember remember_;
     Scope scope_;
+    bool straight_apostrophe_;
+    /// By the first byte of a word.
+    std::array<bool, 256> may_be_forbidden_{};
     WordScanner scanner_;
     /// Words lately found in the main dictionary, each in the place that its bytes choose.
     std::unique_ptr<PackedWord[], Free> recent_ = MakeRecent();

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <map>
+#include <queue>
 
 namespace wordhawk {
 namespace {
@@ -27,6 +30,132 @@ std::size_t FindPrefix(std::wstring_view text, std::size_t from) {
     return std::wstring_view::npos;
 }
 
+/// Blanks the addresses with one prefix in one run between end characters.
+///
+/// The known addresses go first, each wherever it stands, in the order they were met; then what
+/// begins with the first prefix that is left is a new address, up to the next blank, and so on.
+/// This order need not be kept across a run: whether an address found at a place goes is decided by
+/// those found at places that it overlaps. So places are looked at from left to right, one cluster
+/// of overlapping addresses at a time, and each only once or twice, however long the run.
+class PrefixPass {
+  public:
+    PrefixPass(std::wstring& block, std::size_t begin, std::size_t end,
+               std::vector<AddressBlanker::Range>* ranges)
+        : block_(block), begin_(begin), end_(end), ranges_(ranges) {}
+
+    /// `hashes` are those of the run, or empty to be made.
+    void Blank(std::wstring_view prefix, KnownAddresses& known, StretchHashes& hashes) {
+        const std::wstring_view run(block_.data() + begin_, end_ - begin_);
+        places_.clear();
+        for (std::size_t at = run.find(prefix); at != std::wstring_view::npos;
+             at = run.find(prefix, at + prefix.size())) {
+            places_.push_back(begin_ + at);
+        }
+        if (places_.empty()) return;
+        if (hashes.Empty()) hashes.Append(run);
+        PushPieces();
+        while (!pieces_.empty()) {
+            const Piece piece = pieces_.back();
+            pieces_.pop_back();
+            BlankPiece(piece, known, hashes);
+        }
+    }
+
+  private:
+    /// A stretch without blanks; offsets in the block.
+    struct Piece {
+        std::size_t begin;
+        std::size_t end;
+    };
+    /// A known address at a place, the one to go first being the greatest.
+    struct Candidate {
+        KnownAddresses::Match match;
+        std::size_t place;
+        std::size_t End() const { return place + match.length; }
+        bool operator<(const Candidate& other) const {
+            return match.number != other.match.number ? match.number > other.match.number
+                                                      : place > other.place;
+        }
+    };
+
+    /// The pieces of the run, the first on top.
+    void PushPieces() {
+        for (std::size_t end = end_; end > begin_;) {
+            std::size_t begin = end;
+            while (begin > begin_ && block_[begin - 1] != L' ') --begin;
+            if (begin < end) pieces_.push_back({begin, end});
+            end = begin > begin_ ? begin - 1 : begin_;
+        }
+    }
+
+    void BlankPiece(const Piece& piece, KnownAddresses& known, const StretchHashes& hashes) {
+        auto place = std::lower_bound(places_.begin(), places_.end(), piece.begin);
+        if (place == places_.end() || *place >= piece.end) return;
+        const std::size_t first = *place;
+        taken_.clear();
+        std::size_t cluster_end = piece.end;
+        for (; place != places_.end() && *place < cluster_end && !known.Empty(); ++place) {
+            const auto match = known.EarliestAt(hashes, *place - begin_, piece.end - *place);
+            if (!match) continue;
+            const Candidate candidate{*match, *place};
+            cluster_end =
+                candidates_.empty() ? candidate.End() : std::max(cluster_end, candidate.End());
+            candidates_.push(candidate);
+        }
+        while (!candidates_.empty()) {
+            const Candidate candidate = candidates_.top();
+            candidates_.pop();
+            Decide(candidate, known, hashes);
+        }
+        const std::size_t new_end = taken_.empty() ? piece.end : taken_.begin()->first;
+        if (first < new_end) {
+            known.Add(std::wstring_view(block_).substr(first, new_end - first));
+            Overwrite(first, new_end);
+        }
+        // What is left between those that went and behind them, the first on top.
+        std::size_t end = piece.end;
+        for (auto taken = taken_.rbegin(); taken != taken_.rend(); ++taken) {
+            if (taken->second < end) pieces_.push_back({taken->second, end});
+            end = taken->first;
+        }
+    }
+
+    /// Takes the candidate when nothing before it took any of it, else looks for a shorter one.
+    void Decide(const Candidate& candidate, const KnownAddresses& known,
+                const StretchHashes& hashes) {
+        const std::size_t place = candidate.place;
+        const auto behind = taken_.upper_bound(place);
+        if (behind != taken_.begin() && std::prev(behind)->second > place) return;
+        if (behind != taken_.end() && behind->first < candidate.End()) {
+            const auto shorter = known.EarliestAt(hashes, place - begin_, behind->first - place);
+            if (shorter) candidates_.push({*shorter, place});
+            return;
+        }
+        // Unlike addresses with one hash are as good as impossible; no word goes by them all the
+        // same.
+        if (block_.compare(place, candidate.match.length, known.Address(candidate.match.number)) !=
+            0) {
+            return;
+        }
+        taken_.emplace(place, candidate.End());
+        Overwrite(place, candidate.End());
+    }
+
+    void Overwrite(std::size_t begin, std::size_t end) {
+        std::fill_n(block_.begin() + static_cast<std::ptrdiff_t>(begin), end - begin, L' ');
+        if (ranges_ != nullptr) ranges_->push_back({begin, end - begin});
+    }
+
+    std::wstring& block_;
+    const std::size_t begin_;
+    const std::size_t end_;
+    std::vector<AddressBlanker::Range>* const ranges_;
+    std::vector<std::size_t> places_;  // of the prefix, in the block
+    std::vector<Piece> pieces_;        // to be looked at
+    std::priority_queue<Candidate> candidates_;
+    std::map<std::size_t, std::size_t> taken_;  // begin and end of what went in a cluster
+};
+
 }  // namespace
 
 bool IsAddressEnd(wchar_t c) {
@@ -50,75 +179,26 @@ bool IsAddressEnd(wchar_t c) {
     }
 }
 
-bool AddressBlanker::MayHoldAddress(std::wstring_view block) {
-    return FindPrefix(block, 0) != std::wstring_view::npos;
-}
-
-void AddressBlanker::Known::Add(std::wstring_view address) {
-    std::uint32_t node = 0;
-    for (const wchar_t c : address) {
-        const auto next = static_cast<std::uint32_t>(address_at_node.size());
-        const auto [step, added] =
-            steps.try_emplace(std::uint64_t{node} << 16 | static_cast<std::uint16_t>(c), next);
-        if (added) address_at_node.push_back(-1);
-        node = step->second;
-    }
-    address_at_node[node] = static_cast<std::int32_t>(addresses.size());
-    addresses.emplace_back(address);
-}
-
-std::int32_t AddressBlanker::Known::EarliestAtStartOf(std::wstring_view text) const {
-    std::int32_t earliest = -1;
-    std::uint32_t node = 0;
-    for (const wchar_t c : text) {
-        const auto step = steps.find(std::uint64_t{node} << 16 | static_cast<std::uint16_t>(c));
-        if (step == steps.end()) break;
-        node = step->second;
-        const std::int32_t found = address_at_node[node];
-        if (found >= 0 && (earliest < 0 || found < earliest)) earliest = found;
-    }
-    return earliest;
-}
-
-void AddressBlanker::Blank(std::wstring& block, std::vector<Range>* ranges) {
+std::vector<AddressBlanker::Range> AddressBlanker::FindRuns(std::wstring_view block) {
+    std::vector<Range> runs;
     for (std::size_t at = FindPrefix(block, 0); at != std::wstring::npos;) {
         const auto end_at = std::find_if(block.begin() + static_cast<std::ptrdiff_t>(at),
                                          block.end(), IsAddressEnd);
         const auto end = static_cast<std::size_t>(end_at - block.begin());
-        BlankRun(block, at, end, ranges);
+        runs.push_back({at, end - at});
         at = FindPrefix(block, end);
     }
+    return runs;
 }
 
-void AddressBlanker::BlankRun(std::wstring& block, std::size_t begin, std::size_t end,
-                              std::vector<Range>* ranges) {
+void AddressBlanker::BlankRuns(std::wstring& block, const std::vector<Range>& runs,
+                               std::vector<Range>* ranges) {
     known_.resize(kPrefixes.size());
-    const std::wstring_view run(block.data() + begin, end - begin);
-    for (std::size_t which = 0; which < kPrefixes.size(); ++which) {
-        const std::wstring_view prefix = kPrefixes[which];
-        Known& known = known_[which];
-        std::size_t first = run.find(prefix);
-        while (first != std::wstring_view::npos) {
-            // Known addresses go in the order in which they were met; what then still begins with
-            // the prefix is a new one.
-            std::int32_t earliest = -1;
-            for (std::size_t at = first; at != std::wstring_view::npos;
-                 at = run.find(prefix, at + 1)) {
-                const std::int32_t here = known.EarliestAtStartOf(run.substr(at));
-                if (here >= 0 && (earliest < 0 || here < earliest)) earliest = here;
-            }
-            if (earliest < 0) {
-                earliest = static_cast<std::int32_t>(known.addresses.size());
-                known.Add(run.substr(first, run.find(L' ', first) - first));
-            }
-            const std::wstring& address = known.addresses[static_cast<std::size_t>(earliest)];
-            for (std::size_t at = run.find(address); at != std::wstring_view::npos;
-                 at = run.find(address, at + address.size())) {
-                std::fill_n(block.begin() + static_cast<std::ptrdiff_t>(begin + at), address.size(),
-                            L' ');
-                if (ranges != nullptr) ranges->push_back({begin + at, address.size()});
-            }
-            first = run.find(prefix);
+    for (const Range& run : runs) {
+        run_hashes_.Clear();
+        PrefixPass pass(block, run.offset, run.offset + run.length, ranges);
+        for (std::size_t which = 0; which < kPrefixes.size(); ++which) {
+            pass.Blank(kPrefixes[which], known_[which], run_hashes_);
         }
     }
 }

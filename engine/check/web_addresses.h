@@ -1,10 +1,11 @@
 #pragma once
 
+#include "engine/check/known_addresses.h"
+#include "engine/check/stretch_hashes.h"
+
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace wordhawk {
@@ -32,28 +33,20 @@ class AddressBlanker {
 
     /// Overwrites every address in `block` with spaces, so that offsets stay, and appends where
     /// each one stood to `ranges` when given. Cut blocks behind a space or a line end.
-    void Blank(std::wstring& block, std::vector<Range>* ranges = nullptr);
+    void Blank(std::wstring& block, std::vector<Range>* ranges = nullptr) {
+        BlankRuns(block, FindRuns(block), ranges);
+    }
 
-    /// Whether the block holds any address prefix: a quick look, so that most blocks need no copy.
-    static bool MayHoldAddress(std::wstring_view block);
+    /// The two halves of Blank: where addresses can stand in a block, which does not depend on the
+    /// blocks before it, and the rest, which does.
+    static std::vector<Range> FindRuns(std::wstring_view block);
+    void BlankRuns(std::wstring& block, const std::vector<Range>& runs,
+                   std::vector<Range>* ranges = nullptr);
 
   private:
-    /// The addresses met with one prefix, in the order they were met.
-    struct Known {
-        std::vector<std::wstring> addresses;
-        /// (node, unit) to node; node 0 is the root.
-        std::unordered_map<std::uint64_t, std::uint32_t> steps;
-        std::vector<std::int32_t> address_at_node = {-1};
-
-        void Add(std::wstring_view address);
-        /// Index of the earliest known address that `text` begins with, -1 for none.
-        std::int32_t EarliestAtStartOf(std::wstring_view text) const;
-    };
-
-    void BlankRun(std::wstring& block, std::size_t begin, std::size_t end,
-                  std::vector<Range>* ranges);
-
-    std::vector<Known> known_;
+    /// By prefix; made when the first address is met.
+    std::vector<KnownAddresses> known_;
+    StretchHashes run_hashes_;
 };
 
 }  // namespace wordhawk

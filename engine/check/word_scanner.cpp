@@ -18,6 +18,7 @@ WordScanner::WordScanner(const SplitRules& rules, const AnsiCodePage& page) : ru
     }
     for (const wchar_t c : rules.delimiters) table_[static_cast<std::uint16_t>(c)] = kSeparator;
     for (const wchar_t c : {L' ', L'\r', L'\n'}) table_[static_cast<std::uint16_t>(c)] = kSeparator;
+    if (rules.straight_apostrophe) table_[kTypographicApostrophe] = table_[L'\''];
 }
 
 }  // namespace wordhawk

@@ -31,8 +31,8 @@ struct ScannedWord {
     std::wstring_view text;
     /// Offset of its first unit, counted from the start of the first block.
     std::uint64_t offset;
-    /// Its lower-cased bytes when it consists of letters of the code page and inner apostrophes,
-    /// as nearly every word does; else empty.
+    /// Its lower-cased bytes, with straight apostrophes as the rules have them, when it consists of
+    /// letters of the code page and inner apostrophes, as nearly every word does; else empty.
     std::string_view bytes;
     /// The same bytes as one number, for words of at most 16 of them; else 0.
     PackedWord packed;
@@ -49,9 +49,11 @@ class WordScanner {
     /// line break, or is the last.
     template <class Sink>
     void Scan(std::wstring_view block, Sink&& sink) {
-        if (rules_.ignore_webs && AddressBlanker::MayHoldAddress(block)) {
+        std::vector<AddressBlanker::Range> runs;
+        if (rules_.ignore_webs) runs = AddressBlanker::FindRuns(block);
+        if (!runs.empty()) {
             blanked_.assign(block);
-            addresses_.Blank(blanked_);
+            addresses_.BlankRuns(blanked_, runs);
             ScanPlain(blanked_, sink);
         } else {
             ScanPlain(block, sink);
@@ -68,6 +70,8 @@ class WordScanner {
         0x200;  // digit, edge delimiter, comma, NUL, not in the page
     static constexpr std::uint16_t kCased = 0x400;
     static constexpr std::size_t kLongestUsual = 63;
+
+    static bool IsApostrophe(wchar_t c) { return c == L'\'' || c == kTypographicApostrophe; }
 
     template <class Sink>
     void ScanPlain(std::wstring_view block, Sink&& sink);

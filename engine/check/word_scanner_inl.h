@@ -28,7 +28,7 @@ void WordScanner::ScanPlain(std::wstring_view block, Sink&& sink) {
         if (length < 2) continue;
         const std::wstring_view token(text + start, length);
         const bool usual = (seen & (kUnusual | kCased)) == kCased && length <= kLongestUsual &&
-                           token.front() != L'\'' && token.back() != L'\'';
+                           !IsApostrophe(token.front()) && !IsApostrophe(token.back());
         if (usual) {
             if (length > PackedWord::kLongest) packed = {};
             sink(ScannedWord{token, consumed_ + start, std::string_view(bytes.data(), length),
@@ -42,6 +42,7 @@ void WordScanner::ScanPlain(std::wstring_view block, Sink&& sink) {
 template <class Sink>
 void WordScanner::ScanUnusual(std::wstring_view token, std::uint64_t offset, Sink&& sink) {
     lower_ = Lower(token);
+    if (rules_.straight_apostrophe) lower_ = WithStraightApostrophes(std::move(lower_));
     std::wstring_view word = lower_;
     if (modSubs::CleanWord(word, rules_) < 0) return;
     // A word may hold commas when the comma does not split; it is looked up piece by piece.

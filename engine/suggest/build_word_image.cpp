@@ -62,6 +62,18 @@ class ImageWriter {
         files_.push_back(row);
     }
 
+    /// Behind the words of all files.
+    void AddPairs() {
+        std::vector<std::string> pairs;
+        for (const auto& [word, commonness] : commonness_) {
+            if (word.find(' ') != std::string::npos && word.size() <= WordImage::kLongestWord)
+                pairs.push_back(word);
+        }
+        std::sort(pairs.begin(), pairs.end());
+        for (const std::string& pair : pairs) AddWord(pair);
+        header_.pairs = static_cast<std::uint32_t>(pairs.size());
+    }
+
     std::string Finish() {
         prefix_starts_.push_back(static_cast<std::uint32_t>(values_.size()));
         BuildIndex();
@@ -193,7 +205,9 @@ std::string BuildWordImage(const WordImageSources& sources, Progress& progress) 
     for (const StampedName& file : files) {
         writer.AddFile(sources.folder, file);
         progress.SetPosition(++done);
+        if (progress.YieldAndAskCancel()) return {};
     }
+    writer.AddPairs();
     return writer.Finish();
 }
 

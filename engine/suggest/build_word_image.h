@@ -14,13 +14,15 @@ namespace wordhawk {
 struct WordImageSources {
     /// The language's main dictionary files.
     Path folder;
-    /// Lines of word, blank, count in UTF-8; may be missing.
+    /// Lines of word, or of two words that are often written as one, blank, count in UTF-8; may be
+    /// missing.
     Path frequencies;
     const AnsiCodePage* page = &AnsiCodePage::Get(1252);
 };
 
 /// Reads every main dictionary file and makes the image of their words. Files that cannot be read
-/// count as empty. The result begins where a 64-bit number may, like every block from the heap.
+/// count as empty. The result begins where a 64-bit number may, like every block from the heap, and
+/// is empty when the user stopped it.
 std::string BuildWordImage(const WordImageSources& sources, Progress& progress);
 
 /// Whether a look-up can find the word at all (it is in lower case), and it is of a length that an

@@ -37,7 +37,7 @@ Path LanguageWords::FrequenciesFile() const {
     return IsFile(beside) ? beside : state.ShippedFrequencies;
 }
 
-void LanguageWords::Refresh(Progress& progress) {
+bool LanguageWords::Refresh(Progress& progress) {
     const ProgramState& state = store_.State();
     const bool same = image_ && folder_ == state.LanguageDictFolder && page_ == state.CodePage &&
                       data_folder_ == state.DataFolder;
@@ -52,26 +52,28 @@ void LanguageWords::Refresh(Progress& progress) {
     }
     const FileStamp folder_stamp = StampOf(folder_ / ".");
     if (!same || now >= next_look_ || folder_stamp != folder_stamp_) {
-        if (!same || !CompareMainFiles()) OpenImage(progress);
+        if ((!same || !CompareMainFiles()) && !OpenImage(progress)) return false;
         folder_stamp_ = folder_stamp;
         const auto after = Clock::now();
         next_look_ =
             after + std::max<Clock::duration>(kShortestPause, kPausePerLook * (after - now));
     }
     ReadCustomLists();
+    return true;
 }
 
-void LanguageWords::OpenImage(Progress& progress) {
-    if (ReadCache() && CompareMainFiles()) return;
+bool LanguageWords::OpenImage(Progress& progress) {
+    if (ReadCache() && CompareMainFiles()) return true;
     const Path cache = CacheFile();
     MakeFolder(cache.parent_path());
     // Only one copy of the program makes it; those that waited find it made.
     const auto only_maker = SingleWriter::Acquire(cache.parent_path());
-    if (only_maker && ReadCache() && CompareMainFiles()) return;
+    if (only_maker && ReadCache() && CompareMainFiles()) return true;
 
     image_.reset();
     mapped_.reset();
     in_memory_ = BuildWordImage({folder_, FrequenciesFile(), page_}, progress);
+    if (in_memory_.empty()) return false;
     const bool written =
         only_maker && ReplaceFileContents(cache, in_memory_, Durability::LeftToTheSystem);
     if (!written || !ReadCache()) {
@@ -81,6 +83,7 @@ void LanguageWords::OpenImage(Progress& progress) {
     outdated_.clear();
     lists_.erase(lists_.begin(), lists_.begin() + static_cast<std::ptrdiff_t>(main_lists_));
     main_lists_ = 0;
+    return true;
 }
 
 bool LanguageWords::ReadCache() {
@@ -131,7 +134,8 @@ bool LanguageWords::CompareMainFiles() {
 }
 
 void LanguageWords::ReadCustomLists() {
-    const std::size_t count = store_.CustomCount();
+    const bool main_only = store_.CurrentSettings().SuggFromMain != 0;
+    const std::size_t count = main_only ? 0 : store_.CustomCount();
     std::vector<std::pair<Path, FileStamp>> wanted;
     for (std::size_t i = 0; i < count; ++i) {
         Path path = store_.CustomPath(store_.CustomName(i));

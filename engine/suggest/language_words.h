@@ -30,9 +30,10 @@ struct WordList {
 };
 
 /// Every word that a look-up would find on the disk now: the image of the main files, files that
-/// changed since it was made, and the active custom dictionaries. The image is kept in the folder
-/// "Cache" of the data folder, made anew when it is missing, damaged or of another version or page,
-/// or when much has changed, and kept in memory alone when it cannot be written there.
+/// changed since it was made, and the active custom dictionaries, unless the setting SuggFromMain
+/// leaves these out. The image is kept in the folder "Cache" of the data folder, made anew when it
+/// is missing, damaged or of another version or page, or when much has changed, and kept in memory
+/// alone when it cannot be written there.
 class LanguageWords {
   public:
     /// The store must outlive the object; its language and custom dictionaries may change.
@@ -40,8 +41,9 @@ class LanguageWords {
 
     /// Brings the words up to date. Custom dictionaries and the folder of the main files are looked
     /// at each time, the single main files only after a pause, which is longer where looking takes
-    /// long: a tenth of a second, or twenty times what looking took.
-    void Refresh(Progress& progress);
+    /// long: a tenth of a second, or twenty times what looking took. False when there is no image
+    /// because the user stopped its making; the words must not be used then.
+    bool Refresh(Progress& progress);
     /// Makes the next Refresh look at every file.
     void LookAtAllFiles() { next_look_ = {}; }
 
@@ -58,7 +60,7 @@ class LanguageWords {
     using Clock = std::chrono::steady_clock;
 
     Path FrequenciesFile() const;
-    void OpenImage(Progress& progress);
+    bool OpenImage(Progress& progress);
     bool ReadCache();
     void Adopt(WordImage image);
     /// False when the image does not serve any more.

@@ -1,5 +1,6 @@
 #include "engine/suggest/suggester.h"
 
+#include "engine/suggest/house_style.h"
 #include "engine/suggest/wide_search.h"
 
 namespace wordhawk {
@@ -12,6 +13,10 @@ Suggester::~Suggester() = default;
 Suggester::Suggester(Suggester&&) noexcept = default;
 
 Suggestions Suggester::Find(std::wstring_view word) {
+    return AsInTheText(store_, word, [this](std::wstring_view form) { return Search(form); });
+}
+
+Suggestions Suggester::Search(std::wstring_view word) {
     return wide_ ? wide_->Find(word) : FindSuggestions(store_, word, rules_);
 }
 

@@ -19,9 +19,13 @@ class Suggester {
     ~Suggester();
     Suggester(Suggester&&) noexcept;
 
+    /// The preferred ones of a forbidden word come first, and no forbidden word is suggested. With
+    /// StraightApostrophe, suggestions for a word with typographic apostrophes have them too.
     Suggestions Find(std::wstring_view word);
 
   private:
+    Suggestions Search(std::wstring_view word);
+
     DictionaryStore& store_;
     SuggestionRules rules_;
     std::unique_ptr<WideSearch> wide_;

@@ -21,4 +21,10 @@ std::optional<std::wstring> TakeSuggestion(std::wstring_view entry,
     return MatchCase(entry, document_word);
 }
 
+std::optional<std::wstring> TakeWideSuggestion(std::wstring_view entry,
+                                               std::wstring_view document_word) {
+    const bool has_capitals = document_word != Lower(document_word);
+    return TakeSuggestion(entry, has_capitals ? document_word : std::wstring_view());
+}
+
 }  // namespace wordhawk

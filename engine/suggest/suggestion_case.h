@@ -19,4 +19,9 @@ std::wstring MatchCase(std::wstring_view suggestion, std::wstring_view document_
 std::optional<std::wstring> TakeSuggestion(std::wstring_view entry,
                                            std::wstring_view document_word);
 
+/// The same for an entry from the whole dictionary, where the first letter is often the mistake:
+/// a word without capitals gets none.
+std::optional<std::wstring> TakeWideSuggestion(std::wstring_view entry,
+                                               std::wstring_view document_word);
+
 }  // namespace wordhawk

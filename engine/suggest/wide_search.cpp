@@ -19,7 +19,7 @@ constexpr int kFar = WideSearch::kMostEdits;
 /// Shorter words turn into anything with three edits.
 constexpr std::size_t kShortestFar = 5;
 /// Three edits, at most two of them in the beginning, are tried when the edits to no word cost less
-/// than this; any three when they do not cost less than kHopeless.
+/// than this; any three when there is none, or they do not cost less than kHopeless.
 constexpr float kPoor = 4;
 constexpr float kHopeless = 10;
 
@@ -32,9 +32,9 @@ constexpr float kCustomCommonness = 5;
 /// Commonness of the commonest words.
 constexpr float kTop = 17;
 /// Cost of leaving out the blank between two words.
-constexpr float kJoin = 5.5F;
+constexpr float kJoin = 7;
 /// The same behind a word of one letter, which is joined most often (alot, abit).
-constexpr float kJoinToLetter = 1.5F;
+constexpr float kJoinToLetter = 5;
 /// How much rarer two words in a row are than their product says of one.
 constexpr float kPairRarity = 20;
 /// Words below this are not taken for a part of two words written as one.
@@ -55,8 +55,8 @@ struct Candidate {
 struct WideSearch::Parts {
     explicit Parts(DictionaryStore& the_store) : store(the_store), words(the_store) {}
 
-    void Refresh(Progress& progress) {
-        words.Refresh(progress);
+    bool Refresh(Progress& progress) {
+        if (!words.Refresh(progress)) return false;
         const ProgramState& state = store.State();
         const LearnedTable& wanted = LearnedTableFor(NumberOrZero(state.LanguageId));
         if (&wanted != table || page != state.CodePage) {
@@ -67,6 +67,7 @@ struct WideSearch::Parts {
             letters_of = letters::OfPage(*page);
         }
         seen.resize(words.Image().PrefixCount(), 0);
+        return true;
     }
 
     Spelling Spell(std::string_view bytes) const {
@@ -105,8 +106,9 @@ class WideSearch::Search {
     Suggestions Run() {
         GatherByBeginning(0, kNear);
         if (bytes_.size() >= kShortestFar) {
-            if (cheapest_edits_ >= kPoor) GatherByBeginning(kFar, kFar);
-            if (cheapest_edits_ >= kHopeless) GatherFar();
+            const bool none = found_.empty() && !holds_itself_;
+            if (cheapest_edits_ >= kPoor && !none) GatherByBeginning(kFar, kFar);
+            if (cheapest_edits_ >= kHopeless || none) GatherFar();
         }
         GatherPairs();
         return Finish();
@@ -118,7 +120,9 @@ class WideSearch::Search {
         if (word.empty() || word.size() > WordImage::kLongestWord) return account;
         const auto place = parts_.words.Image().Find(word);
         float commonness = 0;
-        if (place && !parts_.words.IsOutdated(*place)) {
+        const bool stands = place && !parts_.words.IsOutdated(*place) &&
+                            (!parts_.words.Image().IsPair(*place) || HoldsPartsOf(word));
+        if (stands) {
             account.known = true;
             commonness = CommonnessOf(*place);
         }
@@ -177,6 +181,7 @@ class WideSearch::Search {
             // Turns most words away at the cost of one number each.
             if (std::popcount(groups_ ^ groups[i]) <= 2 * kFar) TryPlace(i, kFar, kFar);
         }
+        for (const WordList& list : parts_.words.Lists()) TryList(list, kFar, kFar);
     }
 
     void TryPlace(std::uint32_t i, int least, int most) {
@@ -185,6 +190,7 @@ class WideSearch::Search {
         if (!MayBeWithin(most, word.size(), image.Groups(i))) return;
         const int distance = distance_.To(word);
         if (distance > most || distance < least || parts_.words.IsOutdated(i)) return;
+        if (image.IsPair(i) && !HoldsPartsOf(word)) return;
         Take(word, CommonnessOf(i));
     }
 
@@ -227,6 +233,22 @@ class WideSearch::Search {
                 {(cut == 1 ? kJoinToLetter : kJoin) + Weight(Trait::Rarity) * (kTop - pair),
                  bytes_.substr(0, cut) + ' ' + bytes_.substr(cut)});
         }
+    }
+
+    bool Holds(std::string_view word) const {
+        const auto place = parts_.words.Image().Find(word);
+        if (place && !parts_.words.IsOutdated(*place)) return true;
+        for (const WordList& list : parts_.words.Lists()) {
+            for (std::size_t i = 0; i < list.size(); ++i) {
+                if (list[i] == word) return true;
+            }
+        }
+        return false;
+    }
+
+    bool HoldsPartsOf(std::string_view pair) const {
+        const std::size_t blank = pair.find(' ');
+        return Holds(pair.substr(0, blank)) && Holds(pair.substr(blank + 1));
     }
 
     /// 0 for what is no common word.
@@ -292,7 +314,7 @@ class WideSearch::Search {
 WideSearch::WideSearch(DictionaryStore& store) : parts_(std::make_unique<Parts>(store)) {}
 WideSearch::~WideSearch() = default;
 
-void WideSearch::Prepare(Progress& progress) { parts_->Refresh(progress); }
+bool WideSearch::Prepare(Progress& progress) { return parts_->Refresh(progress); }
 
 Suggestions WideSearch::Find(std::wstring_view word) {
     if (word.size() < 2 || word.size() > WordImage::kLongestWord) return {};

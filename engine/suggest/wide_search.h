@@ -32,8 +32,9 @@ class WideSearch {
     Suggestions Find(std::wstring_view word);
 
     /// Makes the index of the language now, unless it is there: a second or less for most, some for
-    /// languages of millions of forms.
-    void Prepare(Progress& progress);
+    /// languages of millions of forms. The display is told of a range only when there is something
+    /// to make. False when the user stopped it.
+    bool Prepare(Progress& progress);
 
     /// How the costs of one candidate come about.
     struct Account {

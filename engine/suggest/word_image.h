@@ -47,7 +47,7 @@ class WordImage {
         std::uint32_t bucket_bits;
         std::uint32_t text_size;
         std::uint32_t names_size;
-        std::uint32_t unused;
+        std::uint32_t pairs;
     };
 
     /// Reads the block; none when it is damaged, cut short, of another version or for another page.
@@ -62,6 +62,9 @@ class WordImage {
     }
     std::uint32_t Groups(std::uint32_t i) const { return groups_[i]; }
     std::span<const Number> AllGroups() const { return groups_; }
+    /// Whether it is no word but two with a blank between them that are often written as one. These
+    /// stand behind all words; neither of the two need be in a dictionary.
+    bool IsPair(std::uint32_t i) const { return i + std::uint64_t{header_.pairs} >= header_.words; }
     std::uint8_t Commonness(std::uint32_t i) const { return commonness_[i]; }
     /// The place of a word; none when it is not there.
     std::optional<std::uint32_t> Find(std::string_view word) const;
@@ -109,7 +112,7 @@ namespace word_image {
 
 inline constexpr std::array<char, 8> kMagic = {'W', 'H', 'W', 'O', 'R', 'D', 'S', '\n'};
 /// To be raised whenever the layout, or what is derived, changes.
-inline constexpr std::uint32_t kVersion = 1;
+inline constexpr std::uint32_t kVersion = 2;
 
 /// Where the parts of an image stand.
 struct Layout {

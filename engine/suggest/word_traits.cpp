@@ -1,5 +1,7 @@
 #include "engine/suggest/word_traits.h"
 
+#include <algorithm>
+
 namespace wordhawk {
 namespace {
 
@@ -9,16 +11,6 @@ using letters::Of;
 /// Appends unless it is there already.
 void Put(std::string& key, char sound) {
     if (key.empty() || key.back() != sound) key += sound;
-}
-
-std::string ConsonantsOf(const Spelling& word) {
-    std::string key;
-    for (int i = 0; i < word.size; ++i) {
-        const Letter l = word.At(i);
-        if (IsVowel(l) || l == Of('h') || l == letters::kApostrophe) continue;
-        Put(key, static_cast<char>(l));
-    }
-    return key;
 }
 
 /// Reads a word letter by letter, the next ones in sight.
@@ -143,8 +135,19 @@ bool EndsInS(const Spelling& word) { return word.At(word.size - 1) == Of('s'); }
 
 }  // namespace
 
-WordSounds::WordSounds(const Spelling& word)
-    : consonants(ConsonantsOf(word)), sound(Reader(word).Sound()) {}
+WordSounds::WordSounds(const Spelling& word) : sound(Reader(word).Sound()) {
+    for (int i = 0; i < word.size; ++i) {
+        const Letter l = word.At(i);
+        if (l == letters::kApostrophe || l == letters::kSeparator) continue;
+        letters += static_cast<char>(l);
+        if (IsVowel(l)) {
+            Put(vowels, static_cast<char>(l));
+        } else if (l != Of('h')) {
+            Put(consonants, static_cast<char>(l));
+        }
+    }
+    std::sort(letters.begin(), letters.end());
+}
 
 TraitValues CompareWords(const Spelling& meant, const Spelling& written,
                          const WordSounds& written_sounds) {
@@ -157,6 +160,10 @@ TraitValues CompareWords(const Spelling& meant, const Spelling& written,
     set(Trait::FirstLetter, meant.At(0) != written.At(0));
     set(Trait::FinalS, EndsInS(meant) != EndsInS(written));
     set(Trait::Sound, sounds.sound != written_sounds.sound);
+    set(Trait::LastLetter, meant.At(meant.size - 1) != written.At(written.size - 1));
+    set(Trait::Letters, sounds.letters != written_sounds.letters);
+    set(Trait::Vowels, sounds.vowels != written_sounds.vowels);
+    set(Trait::Shorter, meant.size < written.size);
     set(Trait::Possessive,
         meant.size > 2 && EndsInS(meant) && meant.At(meant.size - 2) == letters::kApostrophe);
     return values;

@@ -16,8 +16,12 @@ enum class Trait : std::uint8_t {
     FinalS,      ///< one ends in s and the other does not
     Sound,       ///< they would be read aloud differently, by the rules of English
     Possessive,  ///< the word ends in 's
+    LastLetter,
+    Letters,  ///< they are not made of the same letters
+    Vowels,   ///< their vowels differ, neighbouring equal ones taken once
+    Shorter,  ///< the word is shorter than what was written
 };
-inline constexpr std::size_t kTraits = 6;
+inline constexpr std::size_t kTraits = 10;
 
 using TraitWeights = std::array<float, kTraits>;
 using TraitValues = std::array<float, kTraits>;
@@ -25,6 +29,8 @@ using TraitValues = std::array<float, kTraits>;
 /// A word's keys for the comparison.
 struct WordSounds {
     std::string consonants;
+    std::string vowels;
+    std::string letters;  ///< ascending
     std::string sound;
 
     explicit WordSounds(const Spelling& word);

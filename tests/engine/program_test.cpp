@@ -56,6 +56,25 @@ TEST_F(ProgramTest, ShippedDictionariesAreCopiedOnceAndLeftAlone) {
     EXPECT_EQ(test::ReadBytes(installed), "mine,77500\r\n");
 }
 
+TEST_F(ProgramTest, NewerShippedPackTakesThePlaceOfAnOlderOne) {
+    const Path shipped = folder_ / L"shipped" / "2057";
+    const Path words = folder_ / L"words.txt";
+    for (const char* list : {"colour\nharbour\n", "colour\ncolourway\nhumour\n"}) {
+        test::WriteBytes(words, list);
+        BuildOptions options;
+        options.origin = PackOrigin::Shipped;
+        ASSERT_TRUE(BuildDictionary(std::span(&words, 1), shipped, options));
+        Program program(Options(), ui_);
+        EXPECT_TRUE(program.dictionaries.IsWordInDictionaries(L"colour", Scope::MainOnly));
+        Path file = program.dictionaries.MainPathFor(L"colourful");
+        ASSERT_TRUE(
+            AddWordToDictionary(program.dictionaries, L"colourful", AddTarget::ExplicitFile, file));
+    }
+    Program program(Options(), ui_);
+    for (const wchar_t* known : {L"colour", L"colourway", L"humour", L"colourful"})
+        EXPECT_TRUE(program.dictionaries.IsWordInDictionaries(known, Scope::MainOnly)) << known;
+}
+
 TEST_F(ProgramTest, EachPacksBytesAreReadInItsOwnCodePage) {
     const Path shipped = folder_ / L"shipped";
     const auto build = [&](std::string_view list, const char* locale, int page) {

@@ -62,6 +62,27 @@ TEST_F(CheckPass, MainOnlyListsWordsOfCustomDictionaries) {
     EXPECT_EQ(Check(L"mine cat"), Words{L"mine"});
 }
 
+TEST_F(CheckPass, TypographicApostrophesReadAsStraightOnes) {
+    const std::wstring text =
+        L"don\x2019t \x2018"
+        "don\x2019t\x2019 cat\x2019 dzn\x2019t mine\x2019x";
+    EXPECT_EQ(Check(text), (Words{L"don", L"dzn"})) << "which delimit when switched off";
+    data_.settings.StraightApostrophe = 1;
+    data_.state.Delimiters = rules_.delimiters;
+    rules_ = SplitRules::From(data_.state, data_.settings);
+    EXPECT_EQ(Check(text), (Words{L"dzn\x2019t", L"mine\x2019x"})) << "listed as they stand";
+    data_.WriteCustom(L"CUSTOM.DIC", "first\r\nmine\x92x,77500\r\n");
+    data_.store.ReloadCustomDictionaries();
+    EXPECT_EQ(Check(text), (Words{L"dzn\x2019t"})) << "known as it was added";
+}
+
+TEST_F(CheckPass, ForbiddenWordsAreUnknownWhateverTheDictionariesHold) {
+    test::WriteBytes(data_.store.ForbiddenPath(), "cat -> dog\r\nmine\r\nd\xE9j\xE0\r\n");
+    data_.store.ReloadCustomDictionaries();
+    EXPECT_EQ(Check(L"the Cat sat mine d\xE9j\xE0 cats"),
+              (Words{L"cat", L"mine", L"d\xE9j\xE0", L"cats"}));
+}
+
 TEST_F(CheckPass, CancelKeepsTheWordsFoundSoFar) {
     std::wstring text;
     for (int i = 0; i < 20'000; ++i) text += L"zat cat\r\n";

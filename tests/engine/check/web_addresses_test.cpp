@@ -62,6 +62,73 @@ TEST(WebAddresses, OnePassEqualsStepByStep) {
     }
 }
 
+/// Addresses that hold, begin and overlap one another in every way, known before or met in one run.
+TEST(WebAddresses, RepeatedAndNestedPrefixesEqualStepByStep) {
+    const std::vector<std::vector<std::wstring>> kinds = {
+        {L"www.", L"www.", L"www.", L"\n"},
+        {L"www.", L"www.a", L"\n"},
+        {L"www.", L"www.", L"www.", L"www.", L"www.", L"www.", L"www.", L"www.", L"www.a", L"\n"},
+        {L"www.a", L"www.b", L"www.c", L"www.d", L"www.e", L"www.", L"\n"},
+        {L"www.a", L"www.b", L"http:", L"http:a", L"c", L"ww", L"\n", L" "},
+        {L"www.a", L"www.ab", L"www.abc", L"abc", L"\n"},
+    };
+    Random random(17);
+    for (int round = 0; round < 4'000; ++round) {
+        const auto& pieces = kinds[static_cast<std::size_t>(round) % kinds.size()];
+        const std::wstring text = random.Mix(pieces, 4 + random.Below(round % 40 == 0 ? 400 : 60));
+        ASSERT_EQ(RemoveWebAddresses(text), RemoveStepByStep(text)) << "round " << round;
+    }
+    // Lines cut out of one sequence, so that long ones with few letters come again and overlap.
+    for (int round = 0; round < 1'000; ++round) {
+        std::vector<std::wstring> marks;
+        for (std::size_t i = 0; i < 12; ++i) {
+            marks.push_back(std::wstring(L"www.") + static_cast<wchar_t>(L'a' + random.Below(12)));
+        }
+        std::wstring text;
+        for (std::size_t line = random.Below(40); line > 0; --line) {
+            const std::size_t from = random.Below(marks.size());
+            const std::size_t most = 1 + random.Below(marks.size() - from);
+            for (std::size_t i = from; i < from + most; ++i) text += marks[i];
+            text += random.OneIn(6) ? L"" : L"\n";
+        }
+        ASSERT_EQ(RemoveWebAddresses(text), RemoveStepByStep(text)) << "round " << round;
+    }
+}
+
+/// Each of these took minutes to hours with a time that grew with the square of the size.
+TEST(WebAddresses, LongRunsOfManyPrefixesComeToAnEnd) {
+    const auto repeated = [](std::wstring_view piece, std::size_t count) {
+        std::wstring text;
+        while (count-- > 0) text += piece;
+        return text;
+    };
+    const std::wstring line = repeated(L"www.", 50'000);
+    std::wstring shrinking;
+    for (std::size_t count = 300; count > 0; --count) shrinking += repeated(L"www.", count) + L'\n';
+    std::wstring numbered;
+    std::wstring joined;
+    for (int i = 0; i < 20'000; ++i) {
+        const std::wstring address = L"www.n" + std::to_wstring(i);
+        numbered += address + L'\n';
+        joined += address + L"\x2019";
+    }
+    const std::wstring texts[] = {
+        line + L'\n' + line,
+        shrinking + line,
+        numbered + joined,
+        joined + L'\n' + joined,
+        L"www.k\n" + repeated(L"www.kwww.xwww.yy", 20'000),
+        repeated(L"http:www.ftp:", 30'000) + L'\n' + repeated(L"ftp:http:", 30'000),
+    };
+    for (const std::wstring& text : texts) {
+        std::wstring blanked = text;
+        AddressBlanker().Blank(blanked);
+        EXPECT_EQ(blanked.find(L"www."), std::wstring::npos);
+        EXPECT_EQ(blanked.find(L":"), std::wstring::npos);
+        EXPECT_EQ(blanked.size(), text.size());
+    }
+}
+
 TEST(WebAddresses, BlocksGiveTheSameAsTheWholeText) {
     const std::vector<std::wstring> pieces = {L"http:a", L"http:", L"www.", L"b",
                                               L"ab",     L" ",     L"\n",   L"www.b"};

@@ -33,6 +33,9 @@ TEST(LineEndMemory, GivesEachLineItsOwnEnd) {
         {"lines that are all alike", L"\n\r\n\n\r\n", L"\r\r\r\r\r", L"\n\r\n\n\r\n\r\n"},
         {"an empty line between CR and LF", L"a\rb\nc\r\n", L"a\r\rc\r", L"a\r\r\nc\r\n"},
         {"one kind for all", L"a\nb\n", L"a\rb\r\nc\n", L"a\nb\nc\n"},
+        {"none to go by", L"", L"a\rb", L"a\r\nb"},
+        {"fewer lines", L"a\nb\nc\r\nd", L"a\rb", L"a\nb"},
+        {"LF CR is two ends", L"a\n\rb", L"a\r\rb", L"a\n\rb"},
         {"all gone", L"a\nb\r\n", L"", L""},
     };
     for (const Case& c : cases) {

@@ -97,9 +97,34 @@ TEST_F(LanguageWordsTest, SeesEveryChangeOfTheFiles) {
     data_.WriteCustom(L"CUSTOM.DIC", "own,1\r\n");
     expected.insert("own");
     EXPECT_EQ(Words(words), expected);
+    data_.settings.SuggFromMain = 1;
+    EXPECT_FALSE(Words(words).contains("own")) << "suggestions from the main dictionary only";
+    data_.settings.SuggFromMain = 0;
+    EXPECT_EQ(Words(words), expected);
     std::filesystem::remove(data_.state.CustomFolder() / "CUSTOM.DIC");
     expected.erase("own");
     EXPECT_EQ(Words(words), expected);
+}
+
+TEST_F(LanguageWordsTest, StoppedByTheUserHasNoImageUntilItIsMade) {
+    class Stopping : public Progress {
+      public:
+        void SetRange(std::uint64_t maximum) override { range = maximum; }
+        bool YieldAndAskCancel() override { return stop; }
+        std::uint64_t range = 0;
+        bool stop = true;
+    } progress;
+    LanguageWords words(data_.store);
+    EXPECT_FALSE(words.Refresh(progress));
+    EXPECT_EQ(progress.range, 3u) << "files";
+    EXPECT_FALSE(IsFile(words.CacheFile()));
+    EXPECT_FALSE(words.Refresh(progress));
+    progress.stop = false;
+    EXPECT_TRUE(words.Refresh(progress));
+    EXPECT_EQ(words.Image().WordCount(), start_.size());
+    progress.range = 0;
+    EXPECT_TRUE(words.Refresh(progress));
+    EXPECT_EQ(progress.range, 0u) << "nothing to make, nothing to show";
 }
 
 TEST_F(LanguageWordsTest, DamagedCachesAreMadeAnew) {

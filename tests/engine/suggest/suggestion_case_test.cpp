@@ -34,7 +34,15 @@ TEST(SuggestionCase, FollowsTheWordInTheDocument) {
 
 TEST(SuggestionCase, TheEntryForNoneIsNeverTaken) {
     EXPECT_EQ(TakeSuggestion(L"(no suggestions)", L"TEH"), std::nullopt);
+    EXPECT_EQ(TakeWideSuggestion(L"(no suggestions)", L"teh"), std::nullopt);
     EXPECT_EQ(TakeSuggestion(L"the", L"TEH"), L"THE");
+}
+
+TEST(SuggestionCase, WordWithoutCapitalsGetsNoneFromTheWholeDictionary) {
+    EXPECT_EQ(TakeWideSuggestion(L"the", L"hte"), L"the");
+    EXPECT_EQ(TakeWideSuggestion(L"often", L""), L"often");
+    EXPECT_EQ(TakeWideSuggestion(L"the", L"Hte"), L"The");
+    EXPECT_EQ(TakeWideSuggestion(L"the", L"HTE"), L"THE");
 }
 
 }  // namespace

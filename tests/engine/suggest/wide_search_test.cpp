@@ -207,6 +207,23 @@ TEST_F(WideSearchTest, CommonerWordsComeFirstAndPairsAreFound) {
     EXPECT_EQ(std::find(rare.begin(), rare.end(), L"of in"), rare.end());
 }
 
+TEST_F(WideSearchTest, PairsOftenWrittenAsOneCompeteWithWords) {
+    data_.WriteMain({L"a", L"lot", L"allot", L"case", L"incise", L"viable", L"available"});
+    test::WriteBytes(data_.state.LanguageDictFolder / "frequencies.txt",
+                     "a 90000000\na lot 70000\nallot 50\navailable 300000\nin case 200000\n"
+                     "incise 10\nlot 70000\nviable 3000\n");
+    WideSearch search(data_.store);
+    EXPECT_EQ(WordsOf(search.Find(L"alot")).at(0), L"a lot");
+    EXPECT_EQ(WordsOf(search.Find(L"aloot")).at(0), L"a lot");
+    EXPECT_EQ(WordsOf(search.Find(L"aviable")).at(0), L"available");
+    EXPECT_TRUE(search.Explain(L"alot", L"a lot").known);
+    // "in" is in no dictionary yet.
+    EXPECT_EQ(WordsOf(search.Find(L"incase")).at(0), L"incise");
+    EXPECT_FALSE(search.Explain(L"incase", L"in case").known);
+    data_.WriteCustom(L"CUSTOM.DIC", "in,1\r\n");
+    EXPECT_EQ(WordsOf(search.Find(L"incase")).at(0), L"in case");
+}
+
 TEST_F(WideSearchTest, EqualsTryingEveryWord) {
     Random random(14);
     std::set<std::wstring> words;
@@ -216,14 +233,15 @@ TEST_F(WideSearchTest, EqualsTryingEveryWord) {
     words.insert({L"aaccbb", L"bacbac"});
     WideSearch search(data_.store);
     std::size_t suggested = 0;
-    for (int round = 0; round < 40; ++round) {
-        const std::wstring word = random.Word(L"abcdeit'", 2, 12);
+    std::size_t far_searches = 0;
+    for (int round = 0; round < 30; ++round) {
+        const std::wstring word = random.Word(L"abcdeit'", round < 20 ? 2 : 10, 12);
         // By rank: no word two edits away or less that is not listed may cost less than a listed
-        // one.
+        // one; where there is none, no word three edits away.
         const Suggestions found = search.Find(word);
         suggested += found.list.size();
         std::map<std::wstring, float> costs;
-        std::vector<float> all;
+        std::array<std::vector<float>, WideSearch::kMostEdits + 1> costs_within;
         for (const std::wstring& candidate : words) {
             const WideSearch::Account account = search.Explain(word, candidate);
             ASSERT_TRUE(account.known);
@@ -232,8 +250,13 @@ TEST_F(WideSearchTest, EqualsTryingEveryWord) {
             const float cost =
                 candidate == word ? -1 : account.edits + account.rarity + account.traits;
             costs[candidate] = cost;
-            if (account.distance <= 2) all.push_back(cost);
+            for (int edits = account.distance; edits <= WideSearch::kMostEdits; ++edits)
+                costs_within[static_cast<std::size_t>(edits)].push_back(cost);
         }
+        const bool far = costs_within[2].empty() && word.size() >= 5;
+        far_searches += far;
+        const int reach = far ? WideSearch::kMostEdits : 2;
+        std::vector<float>& all = costs_within[static_cast<std::size_t>(reach)];
         std::sort(all.begin(), all.end());
         std::size_t better = 0;
         float last = -2;
@@ -242,16 +265,17 @@ TEST_F(WideSearchTest, EqualsTryingEveryWord) {
                 << ToUtf8(word) << ' ' << ToUtf8(suggestion.word);
             EXPECT_LE(last, costs[suggestion.word] + 1e-3F);
             last = costs[suggestion.word];
-            // Words of two edits or less fill their places in order.
+            // Words within reach fill their places in order.
             while (better < all.size() && all[better] < last - 1e-3F) ++better;
         }
         std::size_t listed_near = 0;
         for (const Suggestion& s : found.list)
-            listed_near +=
-                PlainDistance(Narrow(word), Narrow(s.word)) <= 2 && costs[s.word] < last - 1e-3F;
+            listed_near += PlainDistance(Narrow(word), Narrow(s.word)) <= reach &&
+                           costs[s.word] < last - 1e-3F;
         EXPECT_EQ(listed_near, better) << ToUtf8(word);
     }
     EXPECT_GT(suggested, 100U);
+    EXPECT_GT(far_searches, 2U);
 }
 
 TEST_F(WideSearchTest, SettingChoosesTheSearch) {
