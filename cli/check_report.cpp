@@ -23,6 +23,7 @@ void CheckReport::Add(Output& out, const UnknownWord& word, std::uint64_t line,
         case CheckFormat::List:
             if (word.is_new) out << std::string_view(ToUtf8(word.listed) + '\n');
             break;
+        case CheckFormat::Count: ++counts_[std::wstring(word.listed)]; break;
         case CheckFormat::Words: out << word.text << '\n'; break;
         case CheckFormat::Json:
             out << "{\"file\": " << file_ << ", \"line\": " << line << ", \"column\": " << column
@@ -41,6 +42,12 @@ void CheckReport::Add(Output& out, const UnknownWord& word, std::uint64_t line,
             break;
         }
     }
+}
+
+void CheckReport::EndPart(Output& out) {
+    for (const auto& [word, count] : counts_)
+        out << std::string_view(ToUtf8(word) + '\t' + std::to_string(count) + '\n');
+    counts_.clear();
 }
 
 const std::string& CheckReport::TailOf(const UnknownWord& word) {

@@ -28,6 +28,9 @@ class CheckReport {
 
     void Add(Output& out, const UnknownWord& word, std::uint64_t line, std::uint64_t column);
 
+    /// Prints what was counted since the last part ended.
+    void EndPart(Output& out);
+
   private:
     /// The rest of the line behind the word itself: its suggestions.
     const std::string& TailOf(const UnknownWord& word);
@@ -41,6 +44,7 @@ class CheckReport {
     std::unordered_map<std::wstring, std::string> tails_;
     std::size_t tails_size_ = 0;
     std::wstring tail_key_;
+    std::unordered_map<std::wstring, std::uint64_t> counts_;
 };
 
 }  // namespace wordhawk

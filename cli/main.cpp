@@ -29,6 +29,7 @@ int Run(const Options& options) {
         case Command::Key: return RunKey(options.global, options.words);
         case Command::Add: return RunAdd(options.global, options.add);
         case Command::Remove: return RunRemove(options.global, options.words);
+        case Command::Forbid: return RunForbid(options.global, options.forbid);
         case Command::Import: return RunImport(options.global, options.import);
         case Command::Dictionaries: return RunDictionaries(options.global, options.activate);
         case Command::BuildDictionary: return RunBuildDictionary(options.build);

@@ -82,12 +82,17 @@ void AddCheck(CLI::App& app, CheckOptions& check) {
         "--list", format(CheckFormat::List), "Each unknown word once, in the order found");
     CLI::Option* const json = command->add_flag_callback("--json", format(CheckFormat::Json),
                                                          "One JSON object for each occurrence");
+    CLI::Option* const count = command->add_flag_callback(
+        "--count", format(CheckFormat::Count),
+        "Each unknown word, a tab, and how often it occurs, sorted by bytes");
     command
         ->add_flag_callback("-l,--words", format(CheckFormat::Words),
                             "Each occurrence as it is written, and exit with 0, as ispell -l")
         ->excludes(list)
-        ->excludes(json);
-    list->excludes(json);
+        ->excludes(json)
+        ->excludes(count);
+    list->excludes(json)->excludes(count);
+    json->excludes(count);
     command
         ->add_option("--max-suggestions", check.max_suggestions,
                      "Suggestions shown for a word, 0 for all (default 5)")
@@ -97,16 +102,26 @@ void AddCheck(CLI::App& app, CheckOptions& check) {
         "--no-suggestions", [&check] { check.suggestions = false; }, "Do not look for suggestions");
     command->add_flag("--exit-zero", check.exit_zero,
                       "Exit with 0 even when there are unknown words");
-    command->add_option("-j,--jobs", check.jobs, "Files checked at the same time (default 1)")
+    command
+        ->add_option("-j,--jobs", check.jobs,
+                     "Texts, and blocks of a large text, checked at the same time (default 1)")
         ->type_name("N")
         ->check(Between(1, 256));
+    OneValueEachTime(*command, "--ignore-words", check.ignored_lists,
+                     "Do not report the words of this list, one a line")
+        ->type_name("FILE");
+    command->add_flag_callback(
+        "--no-project-words", [&check] { check.project_words = false; },
+        "Leave the lists called .wordhawk-words alone: those in a text's folder (the current one "
+        "for standard input) and above it, up to the root of its git repository");
     command->footer(
         "Prints FILE:LINE:COLUMN: WORD -> SUGGESTION (SCORE%), ... for each unknown word.\n"
         "Exit code: 0 no unknown word, 1 some, 2 error.\n\nExamples:\n"
         "  wordhawk-cli check letter.txt report.rtf\n"
         "  wordhawk-cli --set Language=1031 check --list brief.txt\n"
         "  git log -1 --format=%B | wordhawk-cli check -\n"
-        "  wordhawk-cli check -j 4 --json docs/*.txt > unknown.jsonl");
+        "  wordhawk-cli check -j 4 --json docs/*.txt > unknown.jsonl\n"
+        "  wordhawk-cli check -j 4 --count corpus.txt > unknown.tsv");
 }
 
 void AddWordCommands(CLI::App& app, Options& options) {
@@ -163,6 +178,16 @@ void AddDictionaryCommands(CLI::App& app, Options& options) {
         "Prints WORD and the changed file; exits with 1 when a word was in none.\n\nExamples:\n"
         "  wordhawk-cli remove spellchecker");
 
+    CLI::App* const forbid =
+        AddCommand(app, "forbid", "Flag a word always, and suggest what is preferred to it");
+    forbid->add_option("WORD", options.forbid.words, "The word, then those preferred to it")
+        ->type_name("");
+    forbid->add_flag("--remove", options.forbid.remove, "Forbid the words no more");
+    forbid->footer(
+        "Without a word it prints the forbidden ones, a tab, and what is preferred.\n\nExamples:\n"
+        "  wordhawk-cli forbid teh the\n  wordhawk-cli forbid alot \"a lot\" much\n"
+        "  wordhawk-cli forbid --remove teh");
+
     CLI::App* const import =
         AddCommand(app, "import", "Make a custom dictionary of a file's new words");
     import->add_flag("-q,--quiet", options.import.quiet, "Say nothing about what was done");
@@ -187,10 +212,12 @@ void AddDictionaryCommands(CLI::App& app, Options& options) {
         "  wordhawk-cli dictionaries\n  wordhawk-cli dictionaries --activate MEDICAL.DIC");
 
     CLI::App* const build =
-        AddCommand(app, "build-dictionary", "Write main dictionary files from plain word lists");
+        AddCommand(app, "build-dictionary", "Write main dictionary files from word lists");
     build->add_option("WORDLIST", options.build.word_lists, "Lists, one word a line, UTF-8 or ANSI")
-        ->type_name("")
-        ->required();
+        ->type_name("");
+    OneValueEachTime(*build, "--hunspell", options.build.hunspell_dictionaries,
+                     "Spell out this hunspell dictionary, with the .aff file beside it")
+        ->type_name("FILE.dic");
     build->add_option("--output", options.build.output, "Folder that gets the files")
         ->required()
         ->type_name("DIR");
@@ -201,7 +228,24 @@ void AddDictionaryCommands(CLI::App& app, Options& options) {
         ->check(CLI::IsMember({874, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258})
                     .description(""));
     build->add_flag("--pieces", options.build.pieces,
-                    "Also write the parts that apostrophes and delimiters cut words into");
+                    "Also take the parts that delimiters cut words into; those that letters and "
+                    "apostrophes cut pass only where these delimit");
+    OneValueEachTime(*build, "--pieces-from", options.build.piece_lists,
+                     "Let the words of this list pass only where letters delimit")
+        ->type_name("FILE");
+    build
+        ->add_option(
+            "--in-use", options.build.in_use,
+            "Words by how often they are used; short names and words that would hide slips "
+            "must be among them")
+        ->type_name("FILE");
+    build
+        ->add_option("--parts-in-use", options.build.parts_in_use,
+                     "Words by how often they are used; parts of compounds of three letters must "
+                     "be common ones")
+        ->type_name("FILE");
+    build->add_flag("--pack", options.build.shipped,
+                    "Note the files, so that a newer pack can take the place of this one");
     OneValueEachTime(*build, "--exclude", options.build.excluded,
                      "Leave out the words of this list")
         ->type_name("FILE");
@@ -209,7 +253,8 @@ void AddDictionaryCommands(CLI::App& app, Options& options) {
         "Examples:\n"
         "  wordhawk-cli build-dictionary --output Dictionarys/1033 "
         "/usr/share/dict/american-english\n"
-        "  wordhawk-cli build-dictionary --output 1045 --code-page 1250 polish.txt");
+        "  wordhawk-cli build-dictionary --output 1045 --code-page 1250 polish.txt\n"
+        "  wordhawk-cli build-dictionary --output 1035 --pieces --hunspell fi_FI.dic");
 }
 
 std::optional<int> WholeNumber(std::string_view text) {
@@ -247,6 +292,7 @@ std::optional<Command> CommandNamed(std::string_view name) {
         {"key", Command::Key},
         {"add", Command::Add},
         {"remove", Command::Remove},
+        {"forbid", Command::Forbid},
         {"import", Command::Import},
         {"dictionaries", Command::Dictionaries},
         {"build-dictionary", Command::BuildDictionary},
@@ -263,52 +309,76 @@ ParsedCommandLine Wrong(const std::string& message) {
 
 }  // namespace
 
-ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
-    Options options;
-    RawOverrides raw;
-    CLI::App app(
-        "Wordhawk finds words that its dictionaries do not know, and suggests better ones.",
-        "wordhawk-cli");
-    app.allow_windows_style_options(false);  // "/x" is a path on every system
-    app.require_subcommand(1);
-    app.fallthrough();
-    app.get_formatter()->column_width(28);
-    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    AddGlobalOptions(app, options.global, raw);
-    AddCheck(app, options.check);
-    AddWordCommands(app, options);
-    AddDictionaryCommands(app, options);
-    CLI::App* const pipe =
-        AddCommand(app, "pipe", "Speak the line protocol of ispell -a, for editors (also: -a)");
-    pipe->footer(
-        "Examples:\n  echo '^Ths is a tset' | wordhawk-cli pipe\n"
-        "  emacs --eval '(setq ispell-program-name \"wordhawk-cli\")'");
-    app.footer(
-        "Each command has its own --help. Exit code: 0 fine, 1 unknown words found, 2 "
-        "error.\n\nExamples:\n"
-        "  wordhawk-cli check letter.txt\n  wordhawk-cli suggest recieve\n"
-        "  wordhawk-cli add Wordhawk\n  wordhawk-cli --set Language=1031 check brief.rtf");
+/// The library's description of the command line, and the values that it fills.
+class CommandLineParser::Grammar {
+  public:
+    Grammar() {
+        app_.allow_windows_style_options(false);  // "/x" is a path on every system
+        app_.require_subcommand(1);
+        app_.fallthrough();
+        app_.get_formatter()->column_width(28);
+        app_.get_formatter()->label("SUBCOMMAND", "COMMAND");
+        AddGlobalOptions(app_, options_.global, raw_);
+        AddCheck(app_, options_.check);
+        AddWordCommands(app_, options_);
+        AddDictionaryCommands(app_, options_);
+        CLI::App* const pipe = AddCommand(
+            app_, "pipe", "Speak the line protocol of ispell -a, for editors (also: -a)");
+        pipe->footer(
+            "Examples:\n  echo '^Ths is a tset' | wordhawk-cli pipe\n"
+            "  emacs --eval '(setq ispell-program-name \"wordhawk-cli\")'");
+        app_.footer(
+            "Each command has its own --help. Exit code: 0 fine, 1 unknown words found, 2 "
+            "error.\n\nExamples:\n"
+            "  wordhawk-cli check letter.txt\n  wordhawk-cli suggest recieve\n"
+            "  wordhawk-cli add Wordhawk\n  wordhawk-cli --set Language=1031 check brief.rtf");
+    }
 
-    try {
-        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-    } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() != 0) {
-            const std::vector<std::string> left = app.remaining();
-            if (!app.get_subcommands().empty()) return Wrong(error.what());
-            return Wrong(left.empty() ? error.what()
-                                      : "there is no command or option " + left.front());
+    ParsedCommandLine Parse(const std::vector<std::string>& arguments) {
+        // The values stay where they are, as the library holds references to them.
+        options_ = {};
+        raw_ = {};
+        try {
+            app_.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        } catch (const CLI::ParseError& error) {
+            if (error.get_exit_code() != 0) {
+                const std::vector<std::string> left = app_.remaining();
+                if (!app_.get_subcommands().empty()) return Wrong(error.what());
+                return Wrong(left.empty() ? error.what()
+                                          : "there is no command or option " + left.front());
+            }
+            std::ostringstream text;
+            app_.exit(error, text, text);
+            return {std::nullopt, text.str(), kExitFine};
         }
-        std::ostringstream text;
-        app.exit(error, text, text);
-        return {std::nullopt, text.str(), kExitFine};
+        if (std::string wrong = CutOverrides(raw_, options_.global); !wrong.empty())
+            return Wrong(wrong);
+        options_.command = *CommandNamed(app_.get_subcommands().front()->get_name());
+        const bool needs_words =
+            options_.command == Command::Suggest || options_.command == Command::Key;
+        if (needs_words && options_.words.words.empty() && !options_.words.from_input)
+            return Wrong("no WORD is given, and not --stdin");
+        return {options_, {}, 0};
     }
-    if (std::string wrong = CutOverrides(raw, options.global); !wrong.empty()) return Wrong(wrong);
-    options.command = *CommandNamed(app.get_subcommands().front()->get_name());
-    const bool needs_words = options.command == Command::Suggest || options.command == Command::Key;
-    if (needs_words && options.words.words.empty() && !options.words.from_input) {
-        return Wrong("no WORD is given, and not --stdin");
-    }
-    return {std::move(options), {}, 0};
+
+  private:
+    Options options_;
+    RawOverrides raw_;
+    CLI::App app_{
+        "Wordhawk finds words that its dictionaries do not know, and suggests better ones.",
+        "wordhawk-cli"};
+};
+
+CommandLineParser::CommandLineParser() : grammar_(std::make_unique<Grammar>()) {}
+
+CommandLineParser::~CommandLineParser() = default;
+
+ParsedCommandLine CommandLineParser::Parse(const std::vector<std::string>& arguments) {
+    return grammar_->Parse(arguments);
+}
+
+ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
+    return CommandLineParser().Parse(arguments);
 }
 
 }  // namespace wordhawk

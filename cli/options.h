@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -24,7 +25,7 @@ struct GlobalOptions {
     SearchChoice search = SearchChoice::BySetting;
 };
 
-enum class CheckFormat { Lines, List, Json, Words };
+enum class CheckFormat { Lines, List, Json, Words, Count };
 
 struct CheckOptions {
     std::vector<std::string> files;
@@ -34,6 +35,10 @@ struct CheckOptions {
     int max_suggestions = 5;
     int jobs = 1;
     bool exit_zero = false;
+    /// Lists of words that are not reported.
+    std::vector<std::string> ignored_lists;
+    /// Whether the lists that projects keep count.
+    bool project_words = true;
 };
 
 /// Words from the command line, or one a line from standard input.
@@ -57,6 +62,12 @@ struct AddOptions {
     bool quiet = false;
 };
 
+/// A word and those preferred to it, or words to be taken off; nothing lists them.
+struct ForbidOptions {
+    std::vector<std::string> words;
+    bool remove = false;
+};
+
 struct ImportOptions {
     std::string file;
     bool quiet = false;
@@ -66,7 +77,12 @@ struct BuildOptionsOfCommand {
     std::string output;
     int code_page = 1252;
     bool pieces = false;
+    bool shipped = false;
+    std::string in_use;
+    std::string parts_in_use;
     std::vector<std::string> excluded;
+    std::vector<std::string> piece_lists;
+    std::vector<std::string> hunspell_dictionaries;
     std::vector<std::string> word_lists;
 };
 
@@ -77,6 +93,7 @@ enum class Command {
     Key,
     Add,
     Remove,
+    Forbid,
     Import,
     Dictionaries,
     BuildDictionary,
@@ -90,6 +107,7 @@ struct Options {
     WordOptions words;  ///< of suggest, key, remove
     ExplainOptions explain;
     AddOptions add;
+    ForbidOptions forbid;
     ImportOptions import;
     std::string activate;  ///< of dictionaries
     BuildOptionsOfCommand build;
@@ -103,6 +121,23 @@ struct ParsedCommandLine {
     int exit_code = 0;
 };
 
+/// Reads command lines, one after the other. Not safe to share between threads.
+class CommandLineParser {
+  public:
+    CommandLineParser();
+    ~CommandLineParser();
+    CommandLineParser(const CommandLineParser&) = delete;
+    CommandLineParser& operator=(const CommandLineParser&) = delete;
+
+    /// `arguments` without the program's name, UTF-8 where they are well-formed.
+    ParsedCommandLine Parse(const std::vector<std::string>& arguments);
+
+  private:
+    class Grammar;
+    std::unique_ptr<Grammar> grammar_;
+};
+
+/// CommandLineParser for one line.
 ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 
 /// The line that ispell clients read to see whom they speak with.

@@ -6,28 +6,35 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace wordhawk {
 
-/// Numbered jobs that run on several threads while what they write comes out in their order.
+/// Tasks that run on several threads while what they write comes out in their order.
 struct SideBySide {
-    /// Does job `index` and writes its result to `text`.
-    using Job = std::function<void(std::size_t index, Output& text)>;
+    /// What came of a task apart from what it wrote.
+    struct Result {
+        bool found = false;
+        /// A message line, or nothing.
+        std::string error_line;
+        /// A message line for each dictionary file that could not be read.
+        std::vector<std::string> unreadable;
+    };
+    /// Writes its result to `text`; `thread` counts from 0.
+    using Task = std::function<Result(std::size_t thread, Output& text)>;
 
-    std::size_t jobs = 0;
     std::size_t threads = 1;
-    /// Makes what a thread does its jobs with; called in that thread.
-    std::function<Job()> make_worker;
-    /// Takes what a job wrote, piece by piece, each cut behind something that was written at once.
+    /// The next task, an empty one when there are no more; called in any thread, one at a time.
+    std::function<Task()> next;
+    /// Takes what a task wrote, piece by piece, each cut behind something that was written at once.
     std::function<void(std::string_view piece)> write;
-    /// Called when all that job `index` wrote was taken; `failure` is what an exception said, else
-    /// empty.
-    std::function<void(std::size_t index, std::string failure)> finished;
-    /// Called four times a second while job `index` is waited for.
-    std::function<void(std::size_t index)> waiting;
+    /// Called when all that a task wrote was taken.
+    std::function<void(Result result)> finished;
+    /// Called four times a second while a task is waited for.
+    std::function<void()> waiting;
 
-    /// Runs all jobs; everything but make_worker and the jobs is called in the calling thread. A
-    /// job that is far ahead of its turn waits, so that what is held back has a limit.
+    /// Runs all tasks; everything but `next` and the tasks is called in the calling thread. A
+    /// task that is far ahead of its turn waits, so that what is held back has a limit.
     void Run() const;
 };
 

@@ -1,12 +1,12 @@
 #include "cli/text_blocks.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace wordhawk {
 namespace {
 
 constexpr std::size_t kReadBytes = std::size_t{128} << 10;
-constexpr std::size_t kDecodeBytes = std::size_t{128} << 10;
 constexpr std::size_t kLookAheadBytes = std::size_t{16} << 20;
 constexpr std::size_t kLongestRun = std::size_t{4} << 20;
 
@@ -92,20 +92,49 @@ Result<void> TextBlocks::DecideFromPipe() {
     return {};
 }
 
-Result<void> TextBlocks::AppendRichText() {
-    if (bytes_at_ == bytes_.size()) {
-        if (auto read = ReadMore(kReadBytes); !read) return read;
+Result<RawBlock> TextBlocks::NextOfRichText() {
+    RawBlock block;
+    block.text = std::exchange(rest_, {});
+    while (!rich_text_->AtEnd() && !(bytes_at_ == bytes_.size() && source_.AtEnd())) {
+        const std::size_t from = block.text.size();
+        if (bytes_at_ == bytes_.size()) {
+            if (auto read = ReadMore(kReadBytes); !read) return tl::unexpected(read.error());
+        }
+        rich_text_->Feed(std::string_view(bytes_).substr(bytes_at_), block.text);
+        bytes_at_ = bytes_.size();
+        if (source_.AtEnd()) {
+            rich_text_->Finish(block.text);
+            break;
+        }
+        const std::size_t blank = std::wstring_view(block.text).substr(from).find_last_of(L" \n\r");
+        if (blank != std::wstring_view::npos) {
+            rest_ = block.text.substr(from + blank + 1);
+            block.text.resize(from + blank + 1);
+            break;
+        }
+        if (block.text.size() >= kLongestRun) break;
     }
-    rich_text_->Feed(std::string_view(bytes_).substr(bytes_at_), text_);
-    bytes_at_ = bytes_.size();
-    if (source_.AtEnd()) rich_text_->Finish(text_);
-    return {};
+    return block;
 }
 
-/// End of the bytes that may be decoded now: whole characters, a block's worth.
-std::size_t TextBlocks::CompleteBytes() const {
-    const std::size_t end = std::min(bytes_.size(), bytes_at_ + kDecodeBytes);
-    if (end == bytes_.size() && source_.AtEnd()) return end;
+/// Behind the last space or line break between two places in bytes_, npos when there is none.
+std::size_t TextBlocks::BehindLastBlank(std::size_t from, std::size_t end) const {
+    const bool big = encoding_ == TextEncoding::Utf16BigEndian;
+    if (!big && encoding_ != TextEncoding::Utf16LittleEndian) {
+        const std::size_t blank =
+            std::string_view(bytes_).substr(from, end - from).find_last_of(" \n\r");
+        return blank == std::string_view::npos ? blank : from + blank + 1;
+    }
+    for (std::size_t behind = end - (end - from) % 2; behind > from; behind -= 2) {
+        const char low = bytes_[behind - (big ? 1 : 2)];
+        const char high = bytes_[behind - (big ? 2 : 1)];
+        if (high == 0 && (low == ' ' || low == '\n' || low == '\r')) return behind;
+    }
+    return std::string::npos;
+}
+
+/// Where the last character that is whole before `end` ends.
+std::size_t TextBlocks::CompleteCharacters(std::size_t end) const {
     const std::string_view part = std::string_view(bytes_).substr(bytes_at_, end - bytes_at_);
     switch (encoding_) {
         case TextEncoding::Ansi: return end;
@@ -117,45 +146,43 @@ std::size_t TextBlocks::CompleteBytes() const {
     return end;
 }
 
-Result<void> TextBlocks::AppendPlainText() {
-    if (bytes_.size() - bytes_at_ < kDecodeBytes && !source_.AtEnd()) {
-        if (auto read = ReadMore(kReadBytes); !read) return read;
+Result<RawBlock> TextBlocks::NextOfPlainText() {
+    std::size_t searched = 0;  // bytes behind bytes_at_
+    for (std::size_t most = kReadBytes;; most += kReadBytes) {
+        if (bytes_.size() - bytes_at_ < most && !source_.AtEnd()) {
+            if (auto read = ReadMore(kReadBytes); !read) return tl::unexpected(read.error());
+        }
+        if (!decided_) {
+            if (auto decision = DecideFromPipe(); !decision)
+                return tl::unexpected(decision.error());
+        }
+        std::size_t end = std::min(bytes_.size(), bytes_at_ + most);
+        if (end < bytes_.size() || !source_.AtEnd()) {
+            const std::size_t blank = BehindLastBlank(bytes_at_ + searched, end);
+            if (blank == std::string::npos && most < kLongestRun) {
+                searched = (end - bytes_at_) & ~std::size_t{1};  // units of two bytes stay whole
+                continue;
+            }
+            end = blank == std::string::npos ? CompleteCharacters(end) : blank;
+        }
+        RawBlock block;
+        block.encoding = encoding_;
+        block.bytes = bytes_.substr(bytes_at_, end - bytes_at_);
+        bytes_at_ = end;
+        return block;
     }
-    if (!decided_) {
-        if (auto decision = DecideFromPipe(); !decision) return decision;
-    }
-    const std::size_t end = CompleteBytes();
-    AppendDecoded(std::string_view(bytes_).substr(bytes_at_, end - bytes_at_), encoding_, page_,
-                  text_);
-    bytes_at_ = end;
-    return {};
 }
 
-bool TextBlocks::AtEnd() const {
-    if (rich_text_ && rich_text_->AtEnd()) return true;
-    return bytes_at_ == bytes_.size() && source_.AtEnd();
-}
-
-Result<std::wstring_view> TextBlocks::Next() {
+Result<RawBlock> TextBlocks::Next() {
     if (!started_) {
         if (auto start = Start(); !start) return tl::unexpected(start.error());
     }
-    text_.erase(0, text_at_);
-    text_at_ = 0;
-    while (!AtEnd()) {
-        const std::size_t from = text_.size();
-        const auto appended = rich_text_ ? AppendRichText() : AppendPlainText();
-        if (!appended) return tl::unexpected(appended.error());
-        if (AtEnd()) break;
-        const std::size_t blank = std::wstring_view(text_).substr(from).find_last_of(L" \n\r");
-        if (blank != std::wstring_view::npos) {
-            text_at_ = from + blank + 1;
-            return std::wstring_view(text_).substr(0, text_at_);
-        }
-        if (text_.size() >= kLongestRun) break;
-    }
-    text_at_ = text_.size();
-    return std::wstring_view(text_);
+    return rich_text_ ? NextOfRichText() : NextOfPlainText();
+}
+
+std::wstring RawBlock::Decode(const AnsiCodePage& page) {
+    if (!bytes.empty()) AppendDecoded(bytes, encoding, page, text);
+    return std::move(text);
 }
 
 int TextBlocks::PercentRead() const {

@@ -1,3 +1,4 @@
+#include "app/apostrophes.h"
 #include "cli/commands.h"
 #include "cli/output.h"
 #include "cli/session.h"
@@ -44,6 +45,13 @@ std::string Listed(const std::vector<std::wstring>& words) {
     return text;
 }
 
+/// As a check looks it up.
+std::wstring InDictionaryForm(const Program& program, std::wstring_view word) {
+    std::wstring form(word);
+    if (program.settings.StraightApostrophe == 0) return form;
+    return WithStraightApostrophes(std::move(form));
+}
+
 }  // namespace
 
 int RunAdd(const GlobalOptions& global, const AddOptions& options) {
@@ -54,7 +62,7 @@ int RunAdd(const GlobalOptions& global, const AddOptions& options) {
         const std::wstring text = TextOfBytes(argument, store.Page());
         const std::string objection = ObjectionTo(Trim(text), store.Page());
         if (!objection.empty()) return Fail(MessageLine(argument, objection));
-        words.emplace_back(Trim(text));
+        words.push_back(InDictionaryForm(session.program, Trim(text)));
     }
     AddTarget target = options.to_main ? AddTarget::Main : AddTarget::ActiveCustom;
     Path path;
@@ -89,7 +97,7 @@ int RunRemove(const GlobalOptions& global, const WordOptions& options) {
     int exit_code = kExitFine;
     for (const std::string& argument : options.words) {
         const std::wstring text = TextOfBytes(argument, store.Page());
-        const std::wstring_view word = Trim(text);
+        const std::wstring word = InDictionaryForm(session.program, Trim(text));
         const Removal removal = RemoveWordFromDictionaries(store, word);
         for (const Error& failure : removal.failures) {
             ShowMessageLine(MessageLine(failure));

@@ -179,6 +179,60 @@ class Check(CliTest):
             self.assertEqual(one.returncode, 2)
             self.assertEqual((one.returncode, one.stdout, one.stderr), (many.returncode, many.stdout, many.stderr))
 
+    def large_texts(self):
+        """Texts of many blocks: what is known of one, addresses and place, matters in the next."""
+        random.seed(11)
+        pieces = ["the", "café", "wrold", "Recieve", "😀 word", "zzxé.", "http://a.zz/qqq", "www.zzq", "ftp:www.", "www.",
+                  "xwww.zzqyy", "one line", "mailto:zz@qq", "(http://a.zz)", "qqwww.zq"]
+        ends = [" ", " ", " ", " ", "\n", "\r\n", "\r", "\r \n", "\t", ", "]
+        text = "".join(random.choice(pieces) + random.choice(ends) for _ in range(24_000))
+        late = text + "http://late.zz/qqq " + "word\r" * 175_000 + "xhttp://late.zz/qqqy \n\nzzlate"
+        ansi = late.replace("😀", "–").encode("cp1252")
+        return {
+            "utf8": late.encode(), "ansi": ansi, "utf8-mark": b"\xef\xbb\xbf" + late.encode(),
+            "utf16": late.encode("utf-16"), "utf16be": b"\xfe\xff" + late.encode("utf-16-be"),
+            "broken": b"\xef\xbb\xbf" + ansi,
+            "no-blanks": ("😀wrold-" * 420_000).encode() + b" zz", "line-ends": b"zzlong\r\n" * 140_000, "text.rtf": rb"{\rtf1\ansi " +
+            ansi.replace(b"\r\n", b"\\par\r\n").replace(b"\r", b"\\line ") + b"}",
+        }
+
+    def test_divides_large_texts_without_a_trace(self):
+        texts = self.large_texts()
+        if self.program.emulated:
+            texts = {name: texts[name] for name in ["utf8", "utf16"]}
+        for name, content in texts.items():
+            self.write(name, content)
+        formats = [[], ["--json"], ["--list"], ["--words"], ["--count"]]
+        for name, content in texts.items():
+            for options in formats if name == "utf8" else formats[4:] if name == "no-blanks" else formats[:1]:
+                with self.subTest(name=name, options=options):
+                    one, many = (self.run_raw("check", "--max-suggestions", 1, *options, "-j", jobs, name)
+                                 for jobs in (1, 3))
+                    self.assertGreater(len(one.stdout), 10)
+                    self.assertEqual((one.returncode, one.stderr), (many.returncode, many.stderr))
+                    self.assertEqual((one.stderr, one.stdout == many.stdout), (b"", True))
+        for name in ["utf8", "utf16"]:
+            one, many = (self.run_raw("check", "-j", jobs, stdin=texts[name]).stdout for jobs in (1, 2))
+            self.assertTrue(one == many, name)
+        several = ["utf8", "missing", "utf8", "utf16"]
+        one, many = (self.run_raw("check", "--list", "-j", jobs, *several) for jobs in (1, 3))
+        self.assertEqual(one.returncode, 2)
+        self.assertEqual((one.stdout, one.stderr), (many.stdout, many.stderr))
+
+    def test_counts_words_so_that_counts_merge_by_sorting(self):
+        self.write("t", "zeta helo Zeta éta zeta word")
+        self.write("u", "helo\neta HELO éta")
+        whole = "eta\t1\nhelo\t3\nzeta\t3\néta\t2\n"
+        self.assertEqual(self.run_cli("check", "--count", "t", "u", code=1), whole)
+        self.assertEqual(self.run_cli("check", "--count", "-j", 3, "t", "u", code=1), whole)
+        self.assertEqual(self.run_cli("check", "--count", stdin="word"), "")
+        lines = [line.split("\t") for name in "tu"
+                 for line in self.run_cli("check", "--count", name, code=1).splitlines()]
+        merged = {}
+        for word, count in sorted(lines):
+            merged[word] = merged.get(word, 0) + int(count)
+        self.assertEqual("".join(f"{word}\t{count}\n" for word, count in merged.items()), whole)
+
     def test_finds_places_in_long_texts(self):
         # Longer than the blocks that texts are read in, so that every kind of cut comes up.
         random.seed(7)

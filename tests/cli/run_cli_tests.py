@@ -20,6 +20,8 @@ import check_test
 import commands_test
 import compare_test
 import pipe_test
+import scale_test
+import words_in_use_test
 from cli_support import CliTest, Program
 
 
@@ -73,7 +75,7 @@ def main():
 
     suite = unittest.TestSuite()
     loader = unittest.defaultTestLoader
-    for module in [broken_test, check_test, commands_test, pipe_test, compare_test]:
+    for module in [broken_test, check_test, commands_test, pipe_test, scale_test, words_in_use_test, compare_test]:
         if options.names:
             for name in options.names:
                 if hasattr(module, name.split(".")[0]):

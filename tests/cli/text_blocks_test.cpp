@@ -15,12 +15,12 @@ const AnsiCodePage& Latin() { return AnsiCodePage::Get(1252); }
 
 std::vector<std::wstring> BlocksOf(const Path& file) {
     std::vector<std::wstring> blocks;
-    TextBlocks source(std::move(*ByteSource::OpenFile(file)), DocumentKind::ByContent, Latin());
+    TextBlocks source(std::move(*ByteSource::OpenFile(file)), DocumentKind::ByContent);
     while (true) {
-        const auto block = source.Next();
+        auto block = source.Next();
         EXPECT_TRUE(block.has_value());
-        if (!block || block->empty()) return blocks;
-        blocks.emplace_back(*block);
+        if (!block || block->Empty()) return blocks;
+        blocks.push_back(block->Decode(Latin()));
     }
 }
 
@@ -118,6 +118,16 @@ TEST(TextPosition, DoesNotDependOnWhereTextIsCut) {
         const std::size_t line_start = text.find_last_of(L"\r\n");
         const std::size_t from = line_start == std::wstring::npos ? 0 : line_start + 1;
         EXPECT_EQ(whole.Column(), CountCharacters(std::wstring_view(text).substr(from)) + 1);
+        TextPosition joined;
+        for (const auto& part : {text.substr(0, cut), text.substr(cut)}) {
+            TextPosition counted;
+            counted.Advance(part);
+            joined.AdvanceCounted(part, counted);
+        }
+        joined.Advance(L"\n\xDE00");
+        whole.Advance(L"\n\xDE00");
+        EXPECT_EQ(joined.Line(), whole.Line());
+        EXPECT_EQ(joined.Column(), whole.Column());
     }
 }
 
