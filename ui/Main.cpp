@@ -113,7 +113,8 @@ int Main() {
     }
 
     SharedMainWindow shared;
-    frmNewSpell window({program, desktop, shared});
+    frmNewSpell window(
+        {program, desktop, shared, PlacementStore::Of(program.state, ProgramFolder())});
     ui.owner = [&window] { return window.Handle(); };
     window.on_unloaded = [] { PostQuitMessage(0); };
     if (!window.Show()) return 1;

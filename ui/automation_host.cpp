@@ -1,5 +1,7 @@
 #include "ui/automation_host.h"
 
+#include "platform/folders.h"
+
 #include <stdexcept>
 
 namespace wordhawk {
@@ -31,7 +33,8 @@ AutomationHost::AutomationHost(Program& program, Desktop& desktop, UiServicesWin
 }
 
 long AutomationHost::Check(SpellCheckArguments& arguments) {
-    form_ = std::make_unique<frmNewSpell>(frmNewSpell::Surroundings{program_, desktop_, shared_});
+    form_ = std::make_unique<frmNewSpell>(frmNewSpell::Surroundings{
+        program_, desktop_, shared_, PlacementStore::Of(program_.state, ProgramFolder())});
     try {
         if (!form_->Make()) throw std::runtime_error("no window");
         const long result = form_->SpellCheck(arguments);

@@ -42,7 +42,7 @@ void AutomationTest::SetUpTestSuite() {
 void AutomationTest::TearDownTestSuite() { RunProgram(L"/UnregServer /AllUsers /Quiet"); }
 
 AutomationTest::AutomationTest() {
-    WriteBytes(folder_ / L"words.txt", "the\nand\nhouse\nwater\n");
+    WriteBytes(folder_ / L"words.txt", "the\nand\nhouse\nwater\nthis\nis\nit\n");
     const Path lists[] = {folder_ / L"words.txt"};
     EXPECT_TRUE(BuildDictionary(lists, Data() / "Dictionarys" / "1033", {}));
     Setting(L"Language", L"1033");
@@ -70,8 +70,8 @@ void AutomationTest::Setting(std::wstring_view key, std::wstring_view value) con
     modSect::WriteSetting(L"Settings", key, value, Data() / "Wordhawk.ini");
 }
 
-AutomationTest::Script AutomationTest::Start(const std::wstring& extension,
-                                             const std::string& text) {
+AutomationTest::Script AutomationTest::Start(const std::wstring& extension, const std::string& text,
+                                             const Path& argument) {
     const std::wstring name = std::to_wstring(++scripts_);
     const Path file = folder_ / (name + L"." + extension);
     Script script;
@@ -80,8 +80,9 @@ AutomationTest::Script AutomationTest::Start(const std::wstring& extension,
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     const FileHandle output(CreateFileW(script.output.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
                                         &inherited, CREATE_ALWAYS, 0, nullptr));
-    script.process =
-        StartProcess(L"cscript.exe //nologo \"" + TextFromPath(file) + L"\"", output.Get());
+    std::wstring line = L"cscript.exe //nologo \"" + TextFromPath(file) + L"\"";
+    if (!argument.empty()) line += L" \"" + TextFromPath(argument) + L"\"";
+    script.process = StartProcess(std::move(line), output.Get());
     EXPECT_NE(script.process, nullptr);
     return script;
 }
@@ -93,19 +94,6 @@ std::string AutomationTest::Finish(Script script) {
     return ReadBytes(script.output);
 }
 
-bool AutomationTest::WaitUntil(const std::function<bool()>& done) {
-    const ULONGLONG end = GetTickCount64() + kPatience;
-    while (!done()) {
-        if (GetTickCount64() > end) return false;
-        Sleep(10);
-    }
-    return true;
-}
-
-int AutomationTest::ListCount() const {
-    return static_cast<int>(SendMessageW(Child(main_id::lstNID), LB_GETCOUNT, 0, 0));
-}
-
 testing::AssertionResult AutomationTest::WaitForWindow(int count) {
     const bool came = WaitUntil([&] {
         window_ = FindWindowW(frmNewSpell::kClassName, nullptr);
@@ -113,22 +101,6 @@ testing::AssertionResult AutomationTest::WaitForWindow(int count) {
     });
     if (came) return testing::AssertionSuccess();
     return testing::AssertionFailure() << "no window with " << count << " words";
-}
-
-HWND AutomationTest::Child(int id) const {
-    struct Search {
-        int id;
-        HWND found;
-    } search{id, nullptr};
-    EnumChildWindows(
-        window_,
-        [](HWND child, LPARAM data) {
-            auto& wanted = *reinterpret_cast<Search*>(data);
-            if (GetDlgCtrlID(child) == wanted.id) wanted.found = child;
-            return wanted.found == nullptr ? TRUE : FALSE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
 }
 
 testing::AssertionResult AutomationTest::Click(int id, int words_then) {

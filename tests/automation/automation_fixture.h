@@ -1,11 +1,10 @@
 #pragma once
 
-#include "platform/win32/win.h"
 #include "tests/support/temp_dir.h"
+#include "tests/windows/program_window.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -29,16 +28,15 @@ class AutomationTest : public testing::Test {
         HANDLE process = nullptr;
         Path output;
     };
-    /// `extension` chooses the language: "vbs" or "js".
-    Script Start(const std::wstring& extension, const std::string& text);
+    /// `extension` chooses the language: "vbs" or "js"; `argument` is handed to the script.
+    Script Start(const std::wstring& extension, const std::string& text, const Path& argument = {});
     /// Waits for its end; what it printed.
     std::string Finish(Script script);
 
-    static bool WaitUntil(const std::function<bool()>& done);
     /// Waits for the window of a check that lists `count` words.
     ::testing::AssertionResult WaitForWindow(int count);
     HWND Window() const { return window_; }
-    HWND Child(int id) const;
+    HWND Child(int id) const { return ControlOf(window_, id); }
     /// Clicks the button and waits until the list has that many words, or the window is gone.
     ::testing::AssertionResult Click(int button, int words_then);
     /// Takes the first suggestion for every word of the list.
@@ -57,7 +55,7 @@ class AutomationTest : public testing::Test {
     TempDir folder_;
 
   private:
-    int ListCount() const;
+    int ListCount() const { return WordsListed(window_); }
 
     HWND window_ = nullptr;
     int scripts_ = 0;

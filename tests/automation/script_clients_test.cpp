@@ -15,6 +15,31 @@ using testing::HasSubstr;
 /// In a script's text, a path needs its backslashes doubled for JScript alone.
 std::string ForScript(const Path& path) { return ToUtf8(TextFromPath(path)); }
 
+/// The sample under a heading of the page about automation, without the lines that set it off.
+std::string SampleUnder(const std::string& heading) {
+    const std::string page = ReadBytes(Path(WORDHAWK_DOCS "/automation.md"));
+    const std::size_t section = page.find("\n### " + heading + "\n");
+    if (section == std::string::npos) return {};
+    const std::size_t fence = page.find("```", section);
+    const std::size_t start = page.find('\n', fence) + 1;
+    return page.substr(start, page.find("```", start) - start);
+}
+
+TEST_F(AutomationTest, SamplesRunAsTheyStandInThePage) {
+    const Path letter = folder_ / L"today's letter.txt";
+    WriteBytes(letter, "the housee\n");
+    const Script checks_file = Start(L"vbs", SampleUnder("VBScript"), letter);
+    EXPECT_TRUE(CorrectAll(1));
+    EXPECT_TRUE(DismissCompletion());
+    EXPECT_EQ(Finish(checks_file), "Checked.\r\n");
+    EXPECT_EQ(ReadBytes(letter), "the house\n");
+    EXPECT_EQ(Finish(Start(L"vbs", SampleUnder("VBScript"), folder_ / L"none.txt")),
+              "There is no such file.\r\n");
+    const Script checks_text = Start(L"js", SampleUnder("JScript"));
+    EXPECT_TRUE(CorrectAll(1));
+    EXPECT_EQ(Finish(checks_text), "This is it.\r\n");
+}
+
 TEST_F(AutomationTest, VbScriptGetsItsTextBackCorrected) {
     const Script script = Start(L"vbs", R"(
 Dim spell, text, result

@@ -64,13 +64,18 @@ void EndToEnd::Setting(std::wstring_view key, std::wstring_view value) {
     modSect::WriteSetting(L"Settings", key, value, Data() / "Wordhawk.ini");
 }
 
-void EndToEnd::Launch(const std::wstring& arguments) {
+void EndToEnd::LaunchProcess(const std::wstring& arguments) {
     Running& program = programs_[current_];
     std::wstring line = L"\"" + TextFromPath(ProgramFolder() / "Wordhawk.exe") + L"\" " + arguments;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    ASSERT_TRUE(CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                               &startup, &program.process));
+    ASSERT_TRUE(CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                               folder_.Folder().c_str(), &startup, &program.process));
+}
+
+void EndToEnd::Launch(const std::wstring& arguments) {
+    ASSERT_NO_FATAL_FAILURE(LaunchProcess(arguments));
+    Running& program = programs_[current_];
     ASSERT_TRUE(WaitUntil([&] {
         program.window = WindowOf(program.process.dwProcessId, frmNewSpell::kClassName);
         return program.window != nullptr;
@@ -106,35 +111,6 @@ HWND EndToEnd::Focus() const {
     info.cbSize = sizeof info;
     const DWORD thread = GetWindowThreadProcessId(Window(), nullptr);
     return GetGUIThreadInfo(thread, &info) ? info.hwndFocus : nullptr;
-}
-
-bool EndToEnd::WaitUntil(const std::function<bool()>& done) {
-    const ULONGLONG end = GetTickCount64() + kPatience;
-    while (!done()) {
-        if (GetTickCount64() > end) return false;
-        Sleep(10);
-    }
-    return true;
-}
-
-HWND EndToEnd::Child(int id) const {
-    struct Search {
-        int id;
-        HWND found;
-    } search{id, nullptr};
-    EnumChildWindows(
-        Window(),
-        [](HWND child, LPARAM data) {
-            auto& wanted = *reinterpret_cast<Search*>(data);
-            if (GetDlgCtrlID(child) == wanted.id) wanted.found = child;
-            return wanted.found == nullptr ? TRUE : FALSE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
-int EndToEnd::ListCount() const {
-    return static_cast<int>(SendMessageW(Child(main_id::lstNID), LB_GETCOUNT, 0, 0));
 }
 
 bool EndToEnd::WaitForCount(int count) const {
@@ -202,12 +178,12 @@ void EndToEnd::DismissBox(const wchar_t* title, WORD key) {
     ASSERT_TRUE(WaitUntil([&] { return !IsWindow(box); }));
 }
 
-void EndToEnd::ExpectEnd() {
+void EndToEnd::ExpectEnd(DWORD expected_code) {
     const HANDLE process = programs_[current_].process.hProcess;
     ASSERT_EQ(WaitForSingleObject(process, kPatience), WAIT_OBJECT_0) << "the program did not end";
     DWORD code = 1;
     GetExitCodeProcess(process, &code);
-    EXPECT_EQ(code, 0u);
+    EXPECT_EQ(code, expected_code);
 }
 
 }  // namespace wordhawk::test

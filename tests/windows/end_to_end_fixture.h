@@ -1,12 +1,12 @@
 #pragma once
 
 #include "tests/support/temp_dir.h"
+#include "tests/windows/program_window.h"
 #include "ui/main_window/frmNewSpell.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,7 +23,9 @@ class EndToEnd : public testing::Test {
     Path Data() const { return folder_ / L"data"; }
     void Setting(std::wstring_view key, std::wstring_view value);
 
-    /// Starts the program and waits for its window, which may be behind a box.
+    /// Starts the program in the folder of the test.
+    void LaunchProcess(const std::wstring& arguments);
+    /// The same, and waits for its window, which may be behind a box.
     void Launch(const std::wstring& arguments);
     /// The same, until its window has the keyboard.
     void Start(const std::wstring& arguments);
@@ -38,9 +40,8 @@ class EndToEnd : public testing::Test {
     void WaitForKeyboard(HWND window);
     /// The control of the program that gets the keys.
     HWND Focus() const;
-    static bool WaitUntil(const std::function<bool()>& done);
-    HWND Child(int id) const;
-    int ListCount() const;
+    HWND Child(int id) const { return ControlOf(Window(), id); }
+    int ListCount() const { return WordsListed(Window()); }
     bool WaitForCount(int count) const;
     std::wstring ChangeTo() const { return TextOf(main_id::txtChgTo); }
     std::wstring TextOf(int id) const;
@@ -59,7 +60,7 @@ class EndToEnd : public testing::Test {
     void WaitForBox(const wchar_t* title, HWND& box);
     void DismissBox(const wchar_t* title, WORD key = VK_RETURN);
     void DismissCompletion() { DismissBox(kComplete); }
-    void ExpectEnd();
+    void ExpectEnd(DWORD expected_code = 0);
 
     static constexpr const wchar_t* kComplete = L"Spell check complete";
 

@@ -204,6 +204,48 @@ TEST_F(Hurry, QuestionBeforeTheMainDictionaryIsNotAnsweredByAHeldKey) {
     EXPECT_EQ(ReadBytes(file), "the qzone");
 }
 
+TEST_F(Hurry, WordOfManyLettersKeepsNobodyWaiting) {
+    // The time that Wine's rich text box needs by itself grows with the square of the length: two
+    // minutes for 100,000 letters, and as much again for every change.
+    const std::string word(4'000, 'q');
+    const Path file = Document("the " + word + " and housee");
+    StartOn(file);
+    ASSERT_TRUE(WaitForCount(2));
+    Key('G', VK_MENU);
+    ASSERT_TRUE(WaitForCount(1));
+    ASSERT_TRUE(WaitUntil([&] { return ChangeTo() == L"house"; }));
+    Key(VK_RETURN);
+    ASSERT_NO_FATAL_FAILURE(DismissCompletion());
+    ASSERT_NO_FATAL_FAILURE(CloseByKeyboard());
+    EXPECT_EQ(ReadBytes(file), "the " + word + " and house");
+}
+
+TEST_F(Hurry, FileThatAnotherProgramWroteMeanwhileIsAskedAboutAndBothTextsStay) {
+    const Path file = Document("the housee");
+    StartOn(file);
+    ASSERT_TRUE(WaitForCount(1));
+    WriteBytes(file, "what another program wrote");
+    Key(VK_RETURN);
+    ASSERT_NO_FATAL_FAILURE(DismissBox(kProgram));
+    ASSERT_NO_FATAL_FAILURE(DismissCompletion());
+    ASSERT_NO_FATAL_FAILURE(WaitForKeyboard(Window()));
+    EXPECT_EQ(ReadBytes(file), "what another program wrote") << "Enter is No";
+    ASSERT_NO_FATAL_FAILURE(CloseByKeyboard());
+    EXPECT_EQ(ReadBytes(file), "what another program wrote");
+    EXPECT_EQ(ReadBytes(Data() / "Saves" / "Unsaved text.txt"), "the house");
+}
+
+TEST_F(Hurry, FileThatVanishedMeanwhileIsWrittenAgain) {
+    const Path file = Document("the housee");
+    StartOn(file);
+    ASSERT_TRUE(WaitForCount(1));
+    ASSERT_TRUE(DeleteOneFile(file));
+    Key(VK_RETURN);
+    ASSERT_NO_FATAL_FAILURE(DismissCompletion());
+    ASSERT_NO_FATAL_FAILURE(CloseByKeyboard());
+    EXPECT_EQ(ReadBytes(file), "the house");
+}
+
 TEST_F(Hurry, NamedFileWithoutMistakesIsNeitherKeptOpenNorWrittenAnew) {
     Setting(L"RemainOpen", L"0");
     const Path file = Document("the house\n");

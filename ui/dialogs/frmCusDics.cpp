@@ -280,13 +280,7 @@ bool frmCusDics::OnKey(const MSG& message) {
 
 bool frmCusDics::OnContextMenu(const ContextRequest& request) {
     if (request.control != cmdDelete.Handle()) return false;
-    POINT at = request.screen;
-    if (request.by_keyboard) {
-        RECT bounds{};
-        GetWindowRect(cmdDelete.Handle(), &bounds);
-        at = {bounds.left, bounds.bottom};
-    }
-    const int chosen = desktop_.menus.Track(handle_, mnuFiles.Handle(), at);
+    const int chosen = desktop_.menus.Track(handle_, mnuFiles.Handle(), request.Place());
     if (chosen == cusdics_id::mnuFiles) mnuFiles_Click();
     return true;
 }

@@ -168,15 +168,8 @@ bool frmEditDict::OnKey(const MSG& message) {
 
 bool frmEditDict::OnContextMenu(const ContextRequest& request) {
     if (request.control != cmdDelete.Handle()) return false;
-    POINT at = request.screen;
-    if (request.by_keyboard) {
-        RECT bounds{};
-        GetWindowRect(cmdDelete.Handle(), &bounds);
-        at = {bounds.left, bounds.bottom};
-    }
-    if (desktop_.menus.Track(handle_, mnuFile.Handle(), at) == editdict_id::mnuFiles) {
-        mnuFiles_Click(1);
-    }
+    const int chosen = desktop_.menus.Track(handle_, mnuFile.Handle(), request.Place());
+    if (chosen == editdict_id::mnuFiles) mnuFiles_Click(1);
     return true;
 }
 
@@ -186,11 +179,10 @@ layout::NodePtr frmEditDict::Layout() const {
     using namespace layout;
     NodePtr buttons = Column(7, List(Item(cmdDelete, {90, kButtonHeight}), Space({0, 0}, 1),
                                      Item(cmdOK, {90, kButtonHeight})));
-    return Margin(
-        11,
-        Column(5, List(Text(lblDum), Item(txtSrch, {100, kFieldHeight}),
-                       Row(9, List(Item(lstEdit, {260, 300}, 1), std::move(buttons)), 1),
-                       Row(9, List(Item(lblCount, {110, 17}), Item(lblStatus, {150, 17}, 1))))));
+    return Margin(11,
+                  Column(5, List(Text(lblDum), Item(txtSrch, {100, kFieldHeight}),
+                                 Row(9, List(Item(lstEdit, {290, 300}, 1), std::move(buttons)), 1),
+                                 Item(lblCount, {110, 17}), Item(lblStatus, {150, 17}))));
 }
 
 void frmEditDict::OnMeasure() { lstEdit.SetItemHeight(EntryHeight(Font(), Dpi())); }

@@ -7,6 +7,10 @@ namespace layout {
 namespace {
 
 constexpr int kButtonPadding = 9;
+// A check mark and the gap behind it, or the two edges of a button.
+constexpr int kMarkWidth = 22;
+// Letters may reach a little beyond the width that the system measures.
+constexpr int kOverhang = 2;
 
 int WidthOf(const RECT& area) { return static_cast<int>(area.right - area.left); }
 int HeightOf(const RECT& area) { return static_cast<int>(area.bottom - area.top); }
@@ -20,7 +24,7 @@ class ItemNode : public Node {
     int Width(const Measure& measure) const override {
         if (size_.width != 0) return measure.Scaled(size_.width);
         return static_cast<int>(measure.TextSize(control_.Text()).cx) +
-               2 * measure.Scaled(kButtonPadding);
+               measure.Scaled(kMarkWidth);
     }
     int Height(int, const Measure& measure) const override {
         if (size_.height != 0) return measure.Scaled(size_.height);
@@ -49,7 +53,8 @@ class TextNode : public ItemNode {
         : ItemNode(label, {}, stretch, Fill::Centred), label_(label) {}
     int Width(const Measure& measure) const override {
         // A stretched text may end in dots; another keeps its whole width.
-        return Stretch() > 0 ? 0 : static_cast<int>(measure.TextSize(label_.Text()).cx);
+        if (Stretch() > 0) return 0;
+        return static_cast<int>(measure.TextSize(label_.Text()).cx) + measure.Scaled(kOverhang);
     }
 
   private:

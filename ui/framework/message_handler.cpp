@@ -19,6 +19,14 @@ std::vector<std::wstring> TakeFiles(HDROP drop) {
 
 }  // namespace
 
+POINT ContextRequest::Place() const {
+    if (!by_keyboard) return screen;
+    RECT bounds{};
+    GetWindowRect(control, &bounds);
+    const int indent = MulDiv(8, static_cast<int>(GetDpiForWindow(control)), 96);
+    return {bounds.left + indent, (bounds.top + bounds.bottom) / 2};
+}
+
 int MessageHandler::Dpi() const {
     const UINT dpi = handle_ != nullptr ? GetDpiForWindow(handle_) : GetDpiForSystem();
     return dpi != 0 ? static_cast<int>(dpi) : 96;

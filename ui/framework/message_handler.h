@@ -19,8 +19,11 @@ struct ControlEvent {
 struct ContextRequest {
     HWND control;
     POINT screen;
-    /// By the keyboard: `screen` is then meaningless and the menu belongs beside the selection.
+    /// By the keyboard: `screen` is then meaningless.
     bool by_keyboard;
+
+    /// Where the menu belongs, in screen coordinates: under the pointer, or on the control.
+    POINT Place() const;
 };
 
 /// Takes the raw messages of a window apart into typed calls. Derived classes override the calls

@@ -1,6 +1,8 @@
 #include "ui/framework/placement_store.h"
 
+#include "app/program_folders.h"
 #include "app/version.h"
+#include "platform/modSect.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -10,21 +12,7 @@ namespace {
 
 constexpr int kSmallestSane = 50;
 constexpr int kLargestSane = 32000;
-
-std::optional<LONG> ReadNumber(const std::wstring& key, const wchar_t* name) {
-    DWORD value = 0;
-    DWORD size = sizeof value;
-    if (RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_REG_DWORD, nullptr, &value,
-                     &size) != ERROR_SUCCESS) {
-        return std::nullopt;
-    }
-    return static_cast<LONG>(value);
-}
-
-void WriteNumber(const std::wstring& key, const wchar_t* name, LONG value) {
-    const auto number = static_cast<DWORD>(value);
-    RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name, REG_DWORD, &number, sizeof number);
-}
+constexpr std::wstring_view kSection = L"Window";
 
 bool IsSane(const SavedPlacement& placement) {
     const RECT& bounds = placement.bounds;
@@ -43,28 +31,63 @@ bool IsSane(const SavedPlacement& placement) {
 PlacementStore::PlacementStore()
     : PlacementStore(FromUtf8("Software\\" WORDHAWK_COMPANY "\\" WORDHAWK_PRODUCT)) {}
 
+PlacementStore PlacementStore::Of(const ProgramState& state, const Path& program_folder) {
+    const Path portable = PortableDataFolder(program_folder);
+    const bool is_portable = !portable.empty() && state.DataFolder == portable;
+    return is_portable ? PlacementStore(state.SettingsFile) : PlacementStore();
+}
+
+std::optional<LONG> PlacementStore::ReadNumber(const wchar_t* name) const {
+    if (!file_.empty()) {
+        const std::wstring text = modSect::ReadSetting(kSection, name, {}, file_);
+        return text.empty() ? std::nullopt : std::optional<LONG>(NumberOrZero(text));
+    }
+    DWORD value = 0;
+    DWORD size = sizeof value;
+    if (RegGetValueW(HKEY_CURRENT_USER, key_.c_str(), name, RRF_RT_REG_DWORD, nullptr, &value,
+                     &size) != ERROR_SUCCESS) {
+        return std::nullopt;
+    }
+    return static_cast<LONG>(value);
+}
+
 std::optional<SavedPlacement> PlacementStore::Load() const {
-    const auto left = ReadNumber(key_, L"Left");
-    const auto top = ReadNumber(key_, L"Top");
-    const auto width = ReadNumber(key_, L"Width");
-    const auto height = ReadNumber(key_, L"Height");
+    const auto left = ReadNumber(L"Left");
+    const auto top = ReadNumber(L"Top");
+    const auto width = ReadNumber(L"Width");
+    const auto height = ReadNumber(L"Height");
     if (!left || !top || !width || !height) return std::nullopt;
     if (*width < 0 || *width > kLargestSane || *height < 0 || *height > kLargestSane)
         return std::nullopt;
     SavedPlacement placement;
     placement.bounds = {*left, *top, *left + *width, *top + *height};
-    placement.dpi = static_cast<int>(ReadNumber(key_, L"Dpi").value_or(96));
-    placement.maximized = ReadNumber(key_, L"Maximized").value_or(0) != 0;
+    placement.dpi = static_cast<int>(ReadNumber(L"Dpi").value_or(96));
+    placement.maximized = ReadNumber(L"Maximized").value_or(0) != 0;
     return IsSane(placement) ? std::optional(placement) : std::nullopt;
 }
 
 void PlacementStore::Save(const SavedPlacement& placement) const {
-    WriteNumber(key_, L"Left", placement.bounds.left);
-    WriteNumber(key_, L"Top", placement.bounds.top);
-    WriteNumber(key_, L"Width", placement.bounds.right - placement.bounds.left);
-    WriteNumber(key_, L"Height", placement.bounds.bottom - placement.bounds.top);
-    WriteNumber(key_, L"Dpi", placement.dpi);
-    WriteNumber(key_, L"Maximized", placement.maximized ? 1 : 0);
+    struct Value {
+        const wchar_t* name;
+        LONG number;
+    };
+    const RECT& bounds = placement.bounds;
+    const Value values[] = {{L"Left", bounds.left},
+                            {L"Top", bounds.top},
+                            {L"Width", bounds.right - bounds.left},
+                            {L"Height", bounds.bottom - bounds.top},
+                            {L"Dpi", placement.dpi},
+                            {L"Maximized", placement.maximized ? 1 : 0}};
+    std::vector<modSect::KeyAndValue> lines;
+    for (const Value& value : values) {
+        lines.push_back({value.name, std::to_wstring(value.number)});
+        const auto number = static_cast<DWORD>(value.number);
+        if (file_.empty()) {
+            RegSetKeyValueW(HKEY_CURRENT_USER, key_.c_str(), value.name, REG_DWORD, &number,
+                            sizeof number);
+        }
+    }
+    if (!file_.empty()) modSect::WriteSettings(kSection, lines, file_);
 }
 
 RECT WithinScreen(RECT bounds) {

@@ -28,7 +28,8 @@ frmNewSpell::frmNewSpell(const Surroundings& surroundings)
       desktop_(surroundings.desktop),
       shared_(surroundings.shared),
       status_(*this, [this] { Form_Resize(); }),
-      suggestions_({*this, program_.dictionaries, program_.ui}),
+      suggestions_({*this, program_.dictionaries, program_.ui,
+                    [this](WideSearch& search) { return PrepareSearch(search); }}),
       commands_({program_, desktop_, *this, suggestions_, status_, theme_,
                  [this] { return handle_; },
                  [this](ProgressWindow* progress) { running_ = progress; },
@@ -162,6 +163,8 @@ void frmNewSpell::LoadSettings() {
     cmdSaveAs.SetVisible(settings.OpenSave || save_as_offered_);
     cmdSaveAs.SetEnabled(settings.OpenSave || save_as_offered_);
     menus_.CheckSearchMode(settings.SortBy);
+    suggestions_.ShowUsualReach();
+    menus_.mnuAlwaysEverywhere->SetChecked(chkEverywhere.Checked());
     ShowCustomDictionaries();
     Form_Resize();
 }
@@ -184,6 +187,7 @@ void frmNewSpell::ApplyCaptions() {
     // In another language the numbers stay what they are.
     suggestions_.hsScore_Change();
     suggestions_.ShowCount();
+    suggestions_.ShowReach();
     commands_.UpdateCounter();
     Form_Resize();
 }
@@ -227,6 +231,9 @@ long frmNewSpell::SpellCheck(SpellCheckArguments& arguments) {
 
 void frmNewSpell::CheckDocument() {
     const HWND focus_before = GetFocus();
+    // What could not be read for the last check may be there for this one.
+    const std::vector<Error> unreadable = program_.dictionaries.Unreadable();
+    for (const Error& error : unreadable) program_.dictionaries.ReloadFile(error.where);
     SpellCheckArguments arguments = check_.OwnArguments();
     if (SpellCheck(arguments) < kChecked) return;
     if (CloseIfAsked()) return;
@@ -292,13 +299,6 @@ void frmNewSpell::HandOver(CompletionNotice notice, bool close) {
     // The box of the announcement lets messages through, and one may have closed the window. A text
     // that could not be saved keeps it open.
     if (handle_ != nullptr && close && saved) tmrBye_.SetEnabled(handle_, true);
-}
-
-void frmNewSpell::cmdSuggestions_Click() {
-    const std::wstring text = txtChgTo.Text();
-    suggestions_.FillSuggestions(Trim(text), SuggestionPane::SkipListed::No,
-                                 program_.settings.SortBy);
-    commands_.UpdateButtons();
 }
 
 void frmNewSpell::cmdOpen_Click() {

@@ -103,6 +103,8 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void cmdAdd_Click(int index) { commands_.Add(static_cast<AddIndex>(index)); }
     void cmdAddAll_Click(int index);
     void cmdSuggestions_Click();
+    void cmdEverywhere_Click();
+    void chkEverywhere_Click();
     void cmdCopyData_Click() { commands_.CopyData(); }
     void cmdCopyData_MouseDown() { commands_.CopyWord(); }
     void cmdOpen_Click();
@@ -167,6 +169,9 @@ class frmNewSpell : public Dialog, public Form, public NewSpellControls {
     void ShowMenu(PopupMenu& menu, const ContextRequest& request);
 
     void SetWordPointer();
+    /// Makes the index of the whole dictionary, which takes a moment the first time. False when the
+    /// user stopped it.
+    bool PrepareSearch(WideSearch& search);
     void CheckDocument();
     void ShowToUser();
     /// Once for each set of dictionaries: a word may be unknown only because its file cannot be

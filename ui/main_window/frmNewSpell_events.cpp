@@ -20,7 +20,7 @@ bool frmNewSpell::OnCommand(const ControlEvent& event) {
     }
     const bool is_button =
         (event.id >= main_id::cmdChange && event.id <= main_id::cmdPreferences) ||
-        event.id == main_id::cmdUndoAdd;
+        event.id == main_id::cmdUndoAdd || event.id == main_id::cmdEverywhere;
     if (is_button) {
         return event.code == BN_CLICKED && OnButton(event.id);
     }
@@ -46,6 +46,7 @@ bool frmNewSpell::OnButton(int id) {
         case main_id::cmdCopyData: cmdCopyData_Click(); break;
         case main_id::cmdSpellcheck: cmdSpellcheck_Click(); break;
         case main_id::cmdSuggestions: cmdSuggestions_Click(); break;
+        case main_id::cmdEverywhere: cmdEverywhere_Click(); break;
         case main_id::cmdOpen: cmdOpen_Click(); break;
         case main_id::cmdSaveAs: cmdSaveAs_Click(); break;
         case main_id::cmdOptions: cmdOptions_Click(); break;
@@ -73,6 +74,7 @@ bool frmNewSpell::OnControl(const ControlEvent& event) {
         {main_id::cboChgTo, CBN_SELCHANGE, &frmNewSpell::cboChgTo_Click},
         {main_id::cboDicts, CBN_SELCHANGE, &frmNewSpell::cboDicts_Click},
         {main_id::lblNID, STN_CLICKED, &frmNewSpell::lblNID_Click},
+        {main_id::chkEverywhere, BN_CLICKED, &frmNewSpell::chkEverywhere_Click},
     };
     for (const Route& route : kRoutes) {
         if (route.id != event.id || route.code != event.code) continue;
@@ -110,14 +112,8 @@ bool frmNewSpell::OnContextMenu(const ContextRequest& request) {
 }
 
 void frmNewSpell::ShowMenu(PopupMenu& menu, const ContextRequest& request) {
-    POINT at = request.screen;
-    if (request.by_keyboard) {
-        RECT bounds{};
-        GetWindowRect(request.control, &bounds);
-        at = {bounds.left + Scaled(8), (bounds.top + bounds.bottom) / 2};
-    }
     menu_commands_.Update(menu.Handle());
-    const int command = desktop_.menus.Track(handle_, menu.Handle(), at);
+    const int command = desktop_.menus.Track(handle_, menu.Handle(), request.Place());
     if (command == 0) return;
     menu_commands_.Run(command);
     KeepFocus();
@@ -184,6 +180,8 @@ frmNewSpell::Reply frmNewSpell::OnNotify(NMHDR& news) {
             return DrawButton(theme_, reinterpret_cast<const NMCUSTOMDRAW&>(news),
                               button == &cmdChange);
         }
+        if (news.hwndFrom == chkEverywhere.Handle())
+            return DrawCheckBox(theme_, reinterpret_cast<const NMCUSTOMDRAW&>(news));
     }
     return {};
 }
@@ -201,9 +199,9 @@ void frmNewSpell::TellOfUnreadable() {
     if (const auto failure = std::exchange(program_.install_failure, std::nullopt))
         commands_.ShowError(text_id::kCannotInstall, *failure);
     const std::vector<Error>& unreadable = program_.dictionaries.Unreadable();
-    if (unreadable_told_ == unreadable.size()) return;
+    const bool more = unreadable.size() > unreadable_told_;
     unreadable_told_ = unreadable.size();
-    commands_.ShowError(text_id::kCannotReadDictionary, unreadable.back());
+    if (more) commands_.ShowError(text_id::kCannotReadDictionary, unreadable.back());
 }
 
 }  // namespace wordhawk

@@ -20,7 +20,8 @@ bool frmNewSpell::OnKey(const MSG& message) {
             return true;
         case WM_KEYDOWN:
             if (key == VK_RETURN) return !held_.Counts(message) || OnEnter();
-            if (key == VK_ESCAPE || key == VK_F7 || ((key == 'O' || key == 'S') && control)) {
+            if (key == VK_ESCAPE || key == VK_F7 || key == VK_F8 ||
+                ((key == 'O' || key == 'S') && control)) {
                 return key_repeats_ || OnCommandKey(key);
             }
             return false;
@@ -31,6 +32,7 @@ bool frmNewSpell::OnKey(const MSG& message) {
 bool frmNewSpell::OnCommandKey(UINT key) {
     switch (key) {
         case VK_F7: cmdSpellcheck.Click(); return true;
+        case VK_F8: cmdEverywhere.Click(); return true;
         case 'O': cmdOpen.Click(); return true;
         case 'S': cmdSaveAs.Click(); return true;
         default:

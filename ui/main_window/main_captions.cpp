@@ -34,6 +34,8 @@ void SetTextIds(NewSpellControls& c, MainMenus& menus) {
         {c.cmdOptions, 0, kTipOptions},
         {c.cmdPreferences, 0, kTipPreferences},
         {c.cmdUndoAdd, kUndo, kTipUndoAdd},
+        {c.cmdEverywhere, kSearchEverywhere, kTipSearchEverywhere},
+        {c.chkEverywhere, kAlwaysEverywhere, kTipAlwaysEverywhere},
         {c.lblNID, 0, kTipWord},
         {c.lstNID, 0, kTipNotFound},
         {c.hsScore, 0, kTipScore},

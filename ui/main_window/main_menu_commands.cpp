@@ -21,7 +21,8 @@ PopupMenu* MainMenuCommands::MenuOf(HWND control) const {
     if (control == c.lstNID.Handle()) return &menus.mnuList;
     for (const Control* searching :
          {static_cast<Control*>(&c.cmdSuggestions), static_cast<Control*>(&c.hsScore),
-          static_cast<Control*>(&c.hsdiversity), static_cast<Control*>(&c.lbldiversity)}) {
+          static_cast<Control*>(&c.hsdiversity), static_cast<Control*>(&c.lbldiversity),
+          static_cast<Control*>(&c.cmdEverywhere), static_cast<Control*>(&c.chkEverywhere)}) {
         if (control == searching->Handle()) return &menus.mnuSearch;
     }
     return nullptr;
@@ -37,6 +38,8 @@ void MainMenuCommands::Update(HMENU menu) {
         menus.mnuRemove[MainMenus::kCopySuggestions]->SetEnabled(parts_.controls.lstSug.Count() >
                                                                  0);
     }
+    if (menu == menus.mnuSearch.Handle())
+        menus.mnuEverywhere->SetEnabled(parts_.controls.cmdEverywhere.Enabled());
     if (menu == menus.mnuList.Handle()) {
         menus.mnuList[0]->SetEnabled(parts_.controls.lstNID.Selected() >= 0);
         menus.mnuList[1]->SetEnabled(parts_.controls.lstNID.Count() > 0);
@@ -71,11 +74,10 @@ void MainMenuCommands::Run(int command) {
     if (choice->menu == &menus.mnuRemove) mnuRemoveWord_Click(choice->index);
     if (choice->menu == &menus.mnuList) mnuList_Click(choice->index);
     if (choice->menu == &menus.mnuSearch) {
-        if (choice->index < MainMenus::kSearchModes) {
-            mnuSearchBy_Click(choice->index);
-        } else {
-            mnuDiversity_Click();
-        }
+        if (choice->index < MainMenus::kSearchModes) mnuSearchBy_Click(choice->index);
+        if (choice->index == MainMenus::kDiversity) mnuDiversity_Click();
+        if (choice->index == MainMenus::kAlwaysEverywhere) mnuAlwaysEverywhere_Click();
+        if (choice->index == MainMenus::kEverywhere) parts_.controls.cmdEverywhere.Click();
     }
 }
 
@@ -113,6 +115,11 @@ void MainMenuCommands::mnuDiversity_Click() {
     MenuItem& item = *parts_.menus.mnuDiversity;
     item.SetChecked(!item.Checked());
     parts_.program.settings.ExtraDiversity = item.Checked() ? 1 : 0;
+}
+
+void MainMenuCommands::mnuAlwaysEverywhere_Click() {
+    parts_.suggestions.SetAlwaysEverywhere(!parts_.menus.mnuAlwaysEverywhere->Checked());
+    parts_.menus.mnuAlwaysEverywhere->SetChecked(parts_.controls.chkEverywhere.Checked());
 }
 
 void MainMenuCommands::mnuRemoveWord_Click(int index) {

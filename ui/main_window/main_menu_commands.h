@@ -34,6 +34,7 @@ class MainMenuCommands {
     void mnuCustD_Click(int index);
     void mnuSearchBy_Click(int index);
     void mnuDiversity_Click();
+    void mnuAlwaysEverywhere_Click();
     void mnuRemoveWord_Click(int index);
     void mnuList_Click(int index);
 

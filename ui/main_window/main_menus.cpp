@@ -12,7 +12,6 @@ constexpr int kRemoveBase = 2200;
 constexpr int kListBase = 2300;
 constexpr int kCustomBase = 3000;
 constexpr int kCustomLimit = 10000;
-constexpr int kDiversityIndex = MainMenus::kSearchModes + 1;
 
 std::wstring Id(int text) { return std::to_wstring(text); }
 
@@ -28,13 +27,15 @@ MainMenus::MainMenus() {
         }
     };
     fill(mnuFile, kFileBase, {true, false, true, true, true, true, false, true});
-    fill(mnuSearch, kSearchBase, {true, true, true, false, true});
+    fill(mnuSearch, kSearchBase, {true, true, true, false, true, false, true, true});
     fill(mnuRemove, kRemoveBase, {true, true, false, true, true});
     fill(mnuList, kListBase, {true, true});
     for (int i = 0; i < kSearchModes; ++i) {
         mnuSearchBy[static_cast<std::size_t>(i)] = mnuSearch[static_cast<std::size_t>(i)];
     }
-    mnuDiversity = mnuSearch[kDiversityIndex];
+    mnuDiversity = mnuSearch[kDiversity];
+    mnuAlwaysEverywhere = mnuSearch[kAlwaysEverywhere];
+    mnuEverywhere = mnuSearch[kEverywhere];
     mnuRemove[kRemoveHeading]->SetEnabled(false);
     SetTextIds();
 }
@@ -51,6 +52,8 @@ void MainMenus::SetTextIds() {
     mnuSearchBy[1]->SetCaption(Id(kSearchByAny));
     mnuSearchBy[2]->SetCaption(Id(kSearchByCloseSound));
     mnuDiversity->SetCaption(Id(kCountSwaps));
+    mnuAlwaysEverywhere->SetCaption(Id(text_id::kAlwaysEverywhere));
+    mnuEverywhere->SetCaption(Id(kSearchEverywhere));
     mnuRemove[kRemoveHeading]->SetCaption(Id(kSuggestions));
     mnuRemove[kRemove]->SetCaption(Id(kRemoveWord));
     mnuRemove[kCopySuggestion]->SetCaption(Id(text_id::kCopy));

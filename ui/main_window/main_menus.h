@@ -32,6 +32,13 @@ class MainMenus {
         kCopySuggestions
     };
     static constexpr int kSearchModes = 3;
+    enum SearchItem {
+        kSeparatorAfterModes = kSearchModes,
+        kDiversity,
+        kSeparatorAfterDiversity,
+        kAlwaysEverywhere,
+        kEverywhere
+    };
 
     MainMenus();
 
@@ -46,6 +53,9 @@ class MainMenus {
     PopupMenu& mnuRemoveWord = mnuRemove;
     std::array<MenuItem*, kSearchModes> mnuSearchBy{};
     MenuItem* mnuDiversity = nullptr;
+    /// The whole dictionary for every word, a check mark, and for the word shown.
+    MenuItem* mnuAlwaysEverywhere = nullptr;
+    MenuItem* mnuEverywhere = nullptr;
 
     /// Puts text ids into the captions for ApplyLanguage to replace.
     void SetTextIds();

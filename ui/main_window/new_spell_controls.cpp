@@ -9,6 +9,9 @@ constexpr int kHighestScore = 100;
 constexpr int kHighestDiversity = 10;
 /// Width of the main panel, in units of 1/96 inch, from which on it is arranged side by side.
 constexpr int kWide = 820;
+constexpr int kCheckHeight = 19;
+/// What a check box needs beside its text.
+constexpr int kBoxWidth = 24;
 
 }  // namespace
 
@@ -40,6 +43,7 @@ void NewSpellControls::CreateMain(ToolTips& tips) {
     lstSug.Create(at(main_id::lstSug));
     lblDum[2].Create(at(main_id::lblDum + 2), Label::Kind::Caption);
     lstSco.Create(at(main_id::lstSco));
+    cmdEverywhere.Create(at(main_id::cmdEverywhere));
     cmdChange.Create(at(main_id::cmdChange));
     cmdChangeAll.Create(at(main_id::cmdChangeAll));
     cmdIgnore.Create(at(main_id::cmdIgnore));
@@ -65,6 +69,7 @@ void NewSpellControls::CreateOptions(ToolTips& tips) {
     hsScore.Create(at(main_id::hsScore), 0, kHighestScore);
     lbldiversity.Create(at(main_id::lbldiversity), Label::Kind::Caption);
     hsdiversity.Create(at(main_id::hsdiversity), 0, kHighestDiversity);
+    chkEverywhere.Create(at(main_id::chkEverywhere));
     lblCD.Create(at(main_id::lblCD), Label::Kind::Caption);
     cboDicts.Create(at(main_id::cboDicts));
     cmdOpen.Create(at(main_id::cmdOpen));
@@ -74,14 +79,14 @@ void NewSpellControls::CreateOptions(ToolTips& tips) {
 }
 
 std::vector<FormControl*> NewSpellControls::All() {
-    return {&rtbW,         &lstNID,          &lblNID,       &lblNIL,         &lblCnt,
-            &txtChgTo,     &cboChgTo,        &lstSug,       &lstSco,         &cboDicts,
-            &hsScore,      &hsdiversity,     &lblScore,     &lbldiversity,   &lblDum[0],
-            &lblDum[1],    &lblDum[2],       &lblCD,        &cmdChange,      &cmdChangeAll,
-            &cmdIgnore,    &cmdIgnoreAll,    &cmdAdd[0],    &cmdAdd[1],      &cmdAddAll[0],
-            &cmdAddAll[1], &cmdCancel,       &cmdCopyData,  &cmdSpellcheck,  &cmdSuggestions,
-            &cmdOpen,      &cmdSaveAs,       &cmdOptions,   &cmdPreferences, &lblStatus,
-            &cmdUndoAdd,   &lblDocumentName, &lblRecentName};
+    return {&rtbW,         &lstNID,          &lblNID,        &lblNIL,         &lblCnt,
+            &txtChgTo,     &cboChgTo,        &lstSug,        &lstSco,         &cboDicts,
+            &hsScore,      &hsdiversity,     &lblScore,      &lbldiversity,   &lblDum[0],
+            &lblDum[1],    &lblDum[2],       &lblCD,         &cmdChange,      &cmdChangeAll,
+            &cmdIgnore,    &cmdIgnoreAll,    &cmdAdd[0],     &cmdAdd[1],      &cmdAddAll[0],
+            &cmdAddAll[1], &cmdCancel,       &cmdCopyData,   &cmdSpellcheck,  &cmdSuggestions,
+            &cmdOpen,      &cmdSaveAs,       &cmdOptions,    &cmdPreferences, &lblStatus,
+            &cmdUndoAdd,   &lblDocumentName, &lblRecentName, &cmdEverywhere,  &chkEverywhere};
 }
 
 Button* NewSpellControls::ButtonWithId(int id) {
@@ -99,6 +104,7 @@ layout::NodePtr NewSpellControls::OptionsLayout() const {
     return Margin(
         11, Column(7, List(Column(2, List(Text(lblScore), Item(hsScore, {kWidth, 26}))),
                            Column(2, List(Text(lbldiversity), Item(hsdiversity, {kWidth, 26}))),
+                           Item(chkEverywhere, {kWidth, kCheckHeight}),
                            Column(4, List(Text(lblCD), Item(cboDicts, {kWidth, kFieldHeight}))),
                            Space({0, 4}), Item(cmdOpen, button), Item(cmdSaveAs, button),
                            Item(cmdPreferences, button), Item(cmdCopyData, button))));
@@ -106,7 +112,9 @@ layout::NodePtr NewSpellControls::OptionsLayout() const {
 
 int NewSpellControls::OptionsWidth(const layout::Measure& measure) const {
     // The captions of the panel set its width in every language, even while it is hidden.
-    int widest = measure.Scaled(150);
+    const int box = measure.Scaled(kBoxWidth);
+    int widest = std::max(measure.Scaled(150),
+                          static_cast<int>(measure.TextSize(chkEverywhere.Text()).cx) + box);
     for (const Control* control :
          std::initializer_list<const Control*>{&lblScore, &lbldiversity, &lblCD, &cmdOpen,
                                                &cmdSaveAs, &cmdPreferences, &cmdCopyData}) {
@@ -136,6 +144,7 @@ void NewSpellControls::ArrangeMain(const layout::Measure& measure) const {
                     Row(4, List(Item(txtChgTo, {60, kFieldHeight}, 1),
                                 Item(cboChgTo, {46, kFieldHeight}, 0, Fill::Centred))),
                     Row(4, List(Item(lstSug, {60, 60}, 1), Item(lstSco, {scores, 60}, 0)), 1),
+                    Item(cmdEverywhere, {60, kButtonHeight - 2}),
                     Row(4, List(Text(lblCnt, 1), Item(lblDum[2], {scores, 0}, 0, Fill::Centred)))),
                6);
     NodePtr lists = Row(9, List(std::move(words), std::move(suggestions)), 4);

@@ -2,6 +2,7 @@
 
 #include "ui/framework/Panel.h"
 #include "ui/framework/controls/Button.h"
+#include "ui/framework/controls/CheckBox.h"
 #include "ui/framework/controls/ComboBox.h"
 #include "ui/framework/controls/Edit.h"
 #include "ui/framework/controls/Label.h"
@@ -58,6 +59,8 @@ enum : int {
     cmdUndoAdd,
     lblDocumentName,
     lblRecentName,
+    cmdEverywhere,
+    chkEverywhere,
 };
 }  // namespace main_id
 
@@ -79,6 +82,9 @@ struct NewSpellControls {
     ComboBox cboChgTo;
     ListBox lstSug;
     ListBox lstSco;
+    /// Fills the lists from the whole dictionary, once; the box below does so for every word.
+    Button cmdEverywhere;
+    CheckBox chkEverywhere;
     ComboBox cboDicts;
     Slider hsScore;
     Slider hsdiversity;

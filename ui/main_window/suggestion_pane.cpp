@@ -4,8 +4,8 @@
 #include "dict/phonetic_key.h"
 #include "engine/session/captions.h"
 #include "engine/suggest/cLS.h"
+#include "engine/suggest/house_style.h"
 #include "engine/suggest/suggestion_case.h"
-#include "engine/suggest/suggestions.h"
 #include "lang/modLoadRes.h"
 #include "lang/text_ids.h"
 
@@ -52,14 +52,37 @@ void SuggestionPane::FollowScroll(const ListBox& leader, ListBox& follower) {
 void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_listed,
                                      std::uint8_t search_mode) {
     if (word.size() < 2) return;
-    const Hourglass busy(parts_.ui);
-    NewSpellControls& c = parts_.controls;
     SuggestionRules rules = SuggestionRules::From(parts_.dictionaries.CurrentSettings());
     rules.search_mode = search_mode;
-    const Suggestions found = FindSuggestions(parts_.dictionaries, word, rules);
+    const Reach reach = Ready(UsualReach()) ? UsualReach() : Reach::Beginning;
+    Fill(reach, std::wstring(word), skip_listed, rules);
+}
+
+SuggestionPane::Reach SuggestionPane::UsualReach() const {
+    const bool always = parts_.dictionaries.CurrentSettings().WideSearch != 0;
+    return always && !declined_ ? Reach::Everywhere : Reach::Beginning;
+}
+
+bool SuggestionPane::Ready(Reach reach) {
+    if (reach == Reach::Beginning) return true;
+    if (!wide_) wide_ = std::make_unique<WideSearch>(parts_.dictionaries);
+    declined_ = !parts_.prepare(*wide_);
+    return !declined_;
+}
+
+void SuggestionPane::Fill(Reach reach, const std::wstring& word, SkipListed skip_listed,
+                          const SuggestionRules& rules) {
+    const Hourglass busy(parts_.ui);
+    NewSpellControls& c = parts_.controls;
+    const Suggestions found = AsInTheText(parts_.dictionaries, word, [&](std::wstring_view form) {
+        return reach == Reach::Everywhere ? wide_->Find(form)
+                                          : FindSuggestions(parts_.dictionaries, form, rules);
+    });
     searched_ = word;
     searched_score_ = rules.score_threshold;
     searched_diversity_ = rules.diversity;
+    reach_ = reach;
+    ShowReach();
 
     following_ = true;
     // A tip on the screen told of a suggestion for another word.
@@ -86,6 +109,42 @@ void SuggestionPane::FillSuggestions(std::wstring_view word, SkipListed skip_lis
     SetCount(c.lstSug.Count());
 }
 
+void SuggestionPane::SearchEverywhere() {
+    if (searched_.empty() || !Ready(Reach::Everywhere)) return;
+    NewSpellControls& c = parts_.controls;
+    const std::wstring typed = c.lstSug.Selected() < 0 ? c.txtChgTo.Text() : std::wstring();
+    Fill(Reach::Everywhere, searched_, SkipListed::No,
+         SuggestionRules::From(parts_.dictionaries.CurrentSettings()));
+    if (!typed.empty()) c.txtChgTo.SetText(typed);
+    // Whoever types goes on typing: over the suggestion, not behind it.
+    if (c.txtChgTo.HasFocus()) c.txtChgTo.SelectAll();
+}
+
+void SuggestionPane::SetAlwaysEverywhere(bool always) {
+    Settings& settings = parts_.dictionaries.CurrentSettings();
+    settings.WideSearch = always ? 1 : 0;
+    modRegs::SaveSetting(parts_.dictionaries.State(), settings, L"WideSearch");
+    ShowUsualReach();
+    if (!searched_.empty()) Refill(UsualReach());
+}
+
+void SuggestionPane::ShowUsualReach() {
+    declined_ = false;
+    parts_.controls.chkEverywhere.SetChecked(UsualReach() == Reach::Everywhere);
+}
+
+void SuggestionPane::ShowReach() {
+    NewSpellControls& c = parts_.controls;
+    const ProgramState& state = parts_.dictionaries.State();
+    const bool everywhere = reach_ == Reach::Everywhere && !searched_.empty();
+    const std::wstring none =
+        everywhere ? L". " + modLoadRes::LoadResText(state, text_id::kSlidersDoNotApply) + L"."
+                   : std::wstring();
+    c.hsScore.SetToolTipText(modLoadRes::LoadResText(state, text_id::kTipScore) + none);
+    c.hsdiversity.SetToolTipText(modLoadRes::LoadResText(state, text_id::kTipDiversity) + none);
+    c.cmdEverywhere.SetEnabled(!searched_.empty() && !everywhere);
+}
+
 void SuggestionPane::ShowNone() {
     parts_.controls.lstSug.Append(kNoSuggestions);
     parts_.controls.lstSco.Append(kNoScore);
@@ -97,6 +156,7 @@ void SuggestionPane::Clear() {
     c.lstSco.Clear();
     c.lstSug.Clear();
     searched_.clear();
+    ShowReach();
     SetCount(0);
 }
 
@@ -152,8 +212,8 @@ void SuggestionPane::TakeSelected() {
 
 std::optional<std::wstring> SuggestionPane::TextToTake(int index) const {
     if (index < 0) return std::nullopt;
-    return TakeSuggestion(parts_.controls.lstSug.Item(index),
-                          parts_.controls.document.SelectedText());
+    const auto take = reach_ == Reach::Everywhere ? TakeWideSuggestion : TakeSuggestion;
+    return take(parts_.controls.lstSug.Item(index), parts_.controls.document.SelectedText());
 }
 
 void SuggestionPane::txtChgTo_Change() {
@@ -199,15 +259,16 @@ void SuggestionPane::RemoveSelected() {
     }
 }
 
-void SuggestionPane::Refill() {
+void SuggestionPane::Refill(Reach reach) {
+    if (searched_.empty()) return;
     NewSpellControls& c = parts_.controls;
     const int selected = c.lstSug.Selected();
     const std::wstring chosen = selected < 0 ? std::wstring() : c.lstSug.Item(selected);
     const std::wstring typed = c.txtChgTo.Text();
     // Whose list is empty has nothing chosen, and nothing typed unless there is something.
     const bool keep = selected < 0 && !typed.empty();
-    const std::wstring word = searched_;
-    FillSuggestions(word, SkipListed::No, parts_.dictionaries.CurrentSettings().SortBy);
+    Fill(Ready(reach) ? reach : Reach::Beginning, searched_, SkipListed::No,
+         SuggestionRules::From(parts_.dictionaries.CurrentSettings()));
     if (keep) c.txtChgTo.SetText(typed);
     if (const int again = chosen.empty() ? -1 : c.lstSug.FindExact(chosen); again >= 0) {
         Select(again);
@@ -217,7 +278,7 @@ void SuggestionPane::Refill() {
 
 void SuggestionPane::SliderReleased() {
     const Settings& settings = parts_.dictionaries.CurrentSettings();
-    if (searched_.empty() ||
+    if (searched_.empty() || reach_ == Reach::Everywhere ||
         (settings.ScoreValue == searched_score_ && settings.Diversity == searched_diversity_)) {
         return;
     }
@@ -263,18 +324,22 @@ void SuggestionPane::SaveSliders() {
 std::wstring SuggestionPane::Explanation(int row) const {
     const NewSpellControls& c = parts_.controls;
     if (row < 0 || row >= c.lstSug.Count() || IsPlaceholder(row) || searched_.empty()) return {};
-    const Settings& settings = parts_.dictionaries.CurrentSettings();
-    const std::wstring word = c.lstSug.Item(row);
-    const auto distance = cLS().LevenshteinDistance(
-        searched_, word,
-        settings.ExtraDiversity != 0 ? Transposition::OneEdit : Transposition::NotCounted);
+    const bool everywhere = reach_ == Reach::Everywhere;
+    const bool swaps = everywhere || parts_.dictionaries.CurrentSettings().ExtraDiversity != 0;
+    const auto distance = std::to_wstring(cLS().LevenshteinDistance(
+        searched_, c.lstSug.Item(row), swaps ? Transposition::OneEdit : Transposition::NotCounted));
     const std::wstring padded = c.lstSco.Item(row);
-    const std::wstring_view score = Trim(padded);
+    const std::wstring_view score = Trim(padded).substr(0, Trim(padded).find(L'%'));
+    const ProgramState& state = parts_.dictionaries.State();
+    if (everywhere) {
+        return Filled(modLoadRes::LoadResText(state, text_id::kWideSuggestionTip),
+                      {distance, score});
+    }
     const std::wstring key = std::to_wstring(c.lstSug.Data(row));
     const std::wstring own_key =
         std::to_wstring(GetPhoneticKey(Lower(searched_), parts_.dictionaries.Page()));
-    return Filled(modLoadRes::LoadResText(parts_.dictionaries.State(), text_id::kSuggestionTip),
-                  {std::to_wstring(distance), score.substr(0, score.find(L'%')), key, own_key});
+    return Filled(modLoadRes::LoadResText(state, text_id::kSuggestionTip),
+                  {distance, score, key, own_key});
 }
 
 }  // namespace wordhawk

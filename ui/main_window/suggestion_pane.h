@@ -1,11 +1,15 @@
 #pragma once
 
 #include "dict/dictionary_store.h"
+#include "engine/suggest/suggestions.h"
+#include "engine/suggest/wide_search.h"
 #include "platform/ui_services.h"
 #include "ui/framework/subclass.h"
 #include "ui/main_window/new_spell_controls.h"
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +24,8 @@ class SuggestionPane {
         NewSpellControls& controls;
         DictionaryStore& dictionaries;
         UiServices& ui;
+        /// Makes the index of the whole dictionary ready; false when the user stopped that.
+        std::function<bool(WideSearch&)> prepare;
     };
     explicit SuggestionPane(const Parts& parts) : parts_(parts) {}
 
@@ -30,6 +36,15 @@ class SuggestionPane {
     /// Shows suggestions for a word and takes the best one. A word of one letter leaves all as it
     /// was.
     void FillSuggestions(std::wstring_view word, SkipListed skip_listed, std::uint8_t search_mode);
+    /// Shows suggestions from the whole dictionary for the word that the lists are for. What was
+    /// typed into the change-to box stays there.
+    void SearchEverywhere();
+    /// Whether every word gets its suggestions from the whole dictionary; kept in the settings.
+    void SetAlwaysEverywhere(bool always);
+    /// Shows what the settings say of that.
+    void ShowUsualReach();
+    /// Lets the sliders' tips and the command say where the suggestions shown come from.
+    void ShowReach();
     void Clear();
     /// Writes the number of suggestions into its label, as the list is now.
     void ShowCount();
@@ -39,9 +54,9 @@ class SuggestionPane {
     /// The n-th suggestion, from 1, as a click on it.
     void Pick(int number);
 
-    /// Searches again for the word that the lists are for, by the rules as they are now. What the
-    /// user chose or typed stays in the change-to box.
-    void Refill();
+    /// Searches again for the word that the lists are for, as before but by the rules as they are
+    /// now. What the user chose or typed stays in the change-to box.
+    void Refill() { Refill(reach_); }
     /// Removes the selected suggestion from the lists.
     void RemoveSelected();
     bool HasSelection() const { return parts_.controls.lstSug.Selected() >= 0; }
@@ -71,6 +86,13 @@ class SuggestionPane {
     std::wstring Explanation(int row) const;
 
   private:
+    /// Where suggestions come from: the files of the word's beginning, or all.
+    enum class Reach { Beginning, Everywhere };
+    Reach UsualReach() const;
+    bool Ready(Reach reach);
+    void Refill(Reach reach);
+    void Fill(Reach reach, const std::wstring& word, SkipListed skip_listed,
+              const SuggestionRules& rules);
     void ShowNone();
     void Select(int index);
     void SetCount(int count);
@@ -84,6 +106,11 @@ class SuggestionPane {
     Parts parts_;
     Subclass suggestions_subclass_;
     Subclass scores_subclass_;
+    /// Made when it is wanted first.
+    std::unique_ptr<WideSearch> wide_;
+    Reach reach_ = Reach::Beginning;
+    /// The user did not want to wait for the index: not again until asked for.
+    bool declined_ = false;
     bool following_ = false;
     int tip_row_ = -1;
     /// The word that the suggestions shown are for, and the sliders that they were searched with.

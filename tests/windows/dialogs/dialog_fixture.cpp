@@ -180,16 +180,20 @@ std::vector<std::string> DialogTest::Clipped(HWND dialog) {
             const std::wstring kind = ClassOf(child);
             const bool is_static = EqualIgnoringCase(kind, L"Static");
             const LONG_PTR style = GetWindowLongPtrW(child, GWL_STYLE);
-            // Values may end in dots.
+            // Values may end in dots, and captions of pages behind have their turn.
             const bool value = is_static && (style & (SS_NOPREFIX | SS_OWNERDRAW)) != 0;
             if ((!is_static && !EqualIgnoringCase(kind, L"Button")) || value) return TRUE;
-            if ((style & WS_VISIBLE) == 0) return TRUE;
+            if (!IsWindowVisible(child)) return TRUE;
+            const LONG_PTR type = style & BS_TYPEMASK;
+            const bool is_push = type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
+            // A frame or a box takes some of a button's room.
+            const int taken = is_static ? 2 : is_push || (style & BS_PUSHLIKE) != 0 ? 6 : 22;
             const layout::Measure measure{
                 96, reinterpret_cast<HFONT>(SendMessageW(child, WM_GETFONT, 0, 0))};
             const SIZE size = measure.TextSize(TextOf(child));
             RECT room{};
             GetClientRect(child, &room);
-            if (size.cx > room.right || size.cy > room.bottom) {
+            if (size.cx + taken > room.right || size.cy > room.bottom) {
                 reinterpret_cast<std::vector<std::string>*>(list)->push_back(
                     std::to_string(GetDlgCtrlID(child)) + " " + ToUtf8(TextOf(child)));
             }

@@ -33,8 +33,11 @@ class WindowInLanguage : public MainWindowTest, public testing::WithParamInterfa
 void ExpectNothingClipped(HWND window) {
     for (const HWND control : Captions(window)) {
         const std::wstring text = TextOf(control);
-        // The frame of a button takes some of its room.
-        const int frame = EqualIgnoringCase(ClassOf(control), WC_BUTTONW) ? 6 : 0;
+        // The frame of a button, or the box beside its text, takes some of its room.
+        const LONG_PTR type = GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK;
+        const int frame = !EqualIgnoringCase(ClassOf(control), WC_BUTTONW) ? 0
+                          : type == BS_AUTOCHECKBOX                        ? 20
+                                                                           : 6;
         RECT area{};
         GetClientRect(control, &area);
         EXPECT_LE(TextWidth(control) + frame, area.right) << ToUtf8(text);
