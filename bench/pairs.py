@@ -16,13 +16,27 @@ def known_words(folder, code_page=1252):
             for line in file.read_bytes().split(b"\r\n") if line}
 
 
-def split(known):
-    """{part: [(misspelling, word)]} of the misspellings that are not `known`, with one correction that is."""
-    pairs = {}
+def corrections(known):
+    """Yields every misspelling that is not `known` with its set of corrections, whose words all are."""
     for line in CODESPELL.read_text(encoding="utf-8").splitlines():
-        wrong, _, right = line.strip().lower().partition("->")
-        if "," not in right and re.fullmatch("[^\\W\\d_']['\\w]+", wrong) and wrong not in known and right in known:
-            pairs[wrong] = right
+        wrong, _, rights = line.strip().lower().partition("->")
+        # What follows the last comma is a reason to doubt it, if anything.
+        several = {right.strip() for right in rights.split(",")[:-1]}
+        if not re.fullmatch("[^\\W\\d_']['\\w]+", wrong) or wrong in known or len(several) == 1:
+            continue
+        rights = several or {rights}
+        if all(word in known for right in rights for word in right.split()):
+            yield wrong, rights
+
+
+def with_several(known):
+    """[(misspelling, corrections)] of those with several corrections."""
+    return [(wrong, rights) for wrong, rights in corrections(known) if len(rights) > 1]
+
+
+def split(known):
+    """{part: [(misspelling, word)]} of those with one correction, which may be words with blanks between."""
+    pairs = {wrong: rights.pop() for wrong, rights in corrections(known) if len(rights) == 1}
     parts = {name: [] for name in PARTS}
     for wrong, right in sorted(pairs.items()):
         number = zlib.crc32(right[:FAMILY].encode()) % 20

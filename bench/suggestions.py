@@ -44,11 +44,13 @@ def answer(command, text):
 
 
 def quality(found, pairs):
-    """Shares of the pairs whose correction comes first, among the first five, anywhere."""
+    """Shares of the pairs of which a correction (one, or any of a set) comes first, among the first five,
+    anywhere."""
     first = five = anywhere = 0
     for wrong, right in pairs:
+        rights = {right} if isinstance(right, str) else right
         listed = [word.lower() for word in found.get(wrong, [])]
-        first += listed[:1] == [right]
-        five += right in listed[:5]
-        anywhere += right in listed
+        first += not rights.isdisjoint(listed[:1])
+        five += not rights.isdisjoint(listed[:5])
+        anywhere += not rights.isdisjoint(listed)
     return tuple(100 * count / len(pairs) for count in (first, five, anywhere))

@@ -14,8 +14,6 @@ from pathlib import Path
 MEGABYTE = 1_000_000
 SIZES = {"100KB": 100_000, "1MB": MEGABYTE, "10MB": 10 * MEGABYTE, "100MB": 100 * MEGABYTE,
          "1GB": 1000 * MEGABYTE}
-CODESPELL = Path("/usr/lib/python3/dist-packages/codespell_lib/data/dictionary.txt")
-WORD_LIST = Path("/usr/share/dict/american-english")
 LINE = ("The committee recieved the final report on Tuesday, and asked the engineers to check "
         "every figure before printing it.\n")
 
@@ -79,19 +77,6 @@ def make_texts(folder, large=False):
 def cut(data, size):
     """The first `size` bytes, back to the end of a line."""
     return data[:data.rfind(b"\n", 0, size) + 1]
-
-
-def misspellings():
-    """(misspelling, correction) pairs: one lower-case word to one word of the word list."""
-    known = {word.strip() for word in WORD_LIST.read_text(encoding="utf-8").splitlines()}
-    pairs = []
-    for line in CODESPELL.read_text(encoding="utf-8").splitlines():
-        wrong, _, right = line.partition("->")
-        if re.fullmatch("[a-z]{2,}", wrong) and right in known and re.fullmatch("[a-z]+", right) \
-                and wrong not in known:
-            pairs.append((wrong, right))
-    random.Random(1).shuffle(pairs)
-    return pairs
 
 
 def invented_words(count):

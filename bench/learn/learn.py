@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Learns the costs of misspellings anew and writes engine/suggest/learned_costs.inc.
 
-    bench/learn/learn.py
+    cmake --preset native -DWORDHAWK_BENCHMARKS=ON
+    cmake --build --preset native --target learn
 
-Wants the preset "native" configured with -DWORDHAWK_BENCHMARKS=ON, its targets learn_costs and dictionary-1033
-built, and the package codespell.
+Wants the package codespell.
 """
 
 import shutil
@@ -16,18 +16,18 @@ ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "bench"))
 import pairs
 
-BUILD = ROOT / "build" / "native"
-WORK = ROOT / "build" / "learn"
 
 
 def main():
-    shutil.rmtree(WORK, ignore_errors=True)
-    dictionary = WORK / "data" / "Dictionarys" / "1033"
-    shutil.copytree(BUILD / "bin" / "dictionaries" / "1033", dictionary)
+    build = Path(sys.argv[1])
+    work = build / "learn"
+    shutil.rmtree(work, ignore_errors=True)
+    dictionary = work / "data" / "Dictionarys" / "1033"
+    shutil.copytree(build / "bin" / "dictionaries" / "1033", dictionary)
     for name, part in pairs.split(pairs.known_words(dictionary)).items():
         lines = "".join(f"{wrong}\t{right}\n" for wrong, right in part)
-        (WORK / f"{name}.txt").write_text(lines, encoding="utf-8")
-    subprocess.run([BUILD / "bin" / "learn_costs", WORK / "data", WORK / "learn.txt", WORK / "tune.txt",
+        (work / f"{name}.txt").write_text(lines, encoding="utf-8")
+    subprocess.run([build / "bin" / "learn_costs", work / "data", work / "learn.txt", work / "tune.txt",
                     ROOT / "engine" / "suggest" / "learned_costs.inc"], check=True)
 
 

@@ -5,8 +5,8 @@
 // DATA_FOLDER is a data folder with the English dictionary. LEARN and TUNE have lines of
 // misspelling, tab, word in UTF-8. For every pair the chance of each candidate is taken as
 // proportional to exp(-cost); the costs are moved, pair by pair, so that the right word's chance
-// grows. After each round the shares of TUNE whose word comes first, and among the first five, are
-// printed; OUTPUT gets the tables.
+// grows. After each round over LEARN the shares of TUNE whose word comes first, and among the first
+// five, are printed; OUTPUT gets the tables learned from both.
 
 #include "dict/dictionary_store.h"
 #include "engine/suggest/edit_costs.h"
@@ -27,10 +27,14 @@
 namespace wordhawk {
 namespace {
 
-constexpr int kRounds = 3;
+constexpr int kRounds = 2;
 constexpr double kStep = 0.15;
 constexpr float kTop = 17;  // as in wide_search.cpp
 constexpr std::size_t kPairsPerStep = 16;
+/// Candidates that cost this much more than the cheapest before anything was learned, or that have
+/// so many cheaper ones, are not learned from.
+constexpr double kHopeless = 10;
+constexpr std::size_t kMostCandidates = 30;
 
 enum class Properties { All, Generic };
 
@@ -45,7 +49,7 @@ struct Weight {
 class Model {
   public:
     Model(Properties properties, double sparsity) : properties_(properties), sparsity_(sparsity) {
-        const TraitWeights start = {0.5F, 0.5F, 1.5F, 0.6F, 0.9F, 1.5F};
+        const TraitWeights start = {0.5F, 0.5F, 1.5F, 0.6F, 0.9F, 1.5F, 0.3F, 1, 1, 0.5F};
         for (std::size_t i = 0; i < kTraits; ++i) traits[i].value = traits[i].initial = start[i];
         if (properties == Properties::Generic) {
             // The sounds are those of English.
@@ -147,7 +151,6 @@ class Learner {
             at = end + 1;
             const std::size_t tab = line.find('\t');
             const std::string right = page_.Encode(FromUtf8(line.substr(tab + 1)));
-            if (right.find(' ') != std::string::npos) continue;
             ++all;
             Pair pair{page_.Encode(FromUtf8(line.substr(0, tab))), {}, 0};
             Gather(pair);
@@ -156,6 +159,7 @@ class Learner {
                              [&](std::uint32_t i) { return image_.Word(i) == right; });
             if (found == pair.candidates.end()) continue;
             pair.right = static_cast<std::size_t>(found - pair.candidates.begin());
+            Prune(pair);
             pairs.push_back(std::move(pair));
         }
         reachable = static_cast<double>(pairs.size()) / static_cast<double>(all);
@@ -173,27 +177,56 @@ class Learner {
                 if ((i + 1) % kPairsPerStep == 0) model.Move();
             }
             model.Move();
-            Report(model, tune, reachable, round);
+            if (!tune.empty()) Report(model, tune, reachable, round);
         }
     }
 
   private:
+    /// The words that the search would weigh, at most three edits away; three are for pairs that
+    /// have nothing nearer.
     void Gather(Pair& pair) {
         const NearDistance distance(pair.written);
+        const std::uint32_t own = LetterGroups(pair.written);
+        std::array<std::uint32_t, skeletons::kMost> buckets;
+        const std::size_t count =
+            skeletons::BucketsOf(skeletons::PrefixOf(pair.written), image_.BucketBits(), buckets);
         bool one_edit = false;
-        for (std::uint32_t i = 0; i < image_.WordCount(); ++i) {
-            const std::uint32_t groups = image_.Groups(i);
-            const std::uint32_t own = LetterGroups(pair.written);
-            if (std::popcount(groups & ~own) > 3 || std::popcount(own & ~groups) > 3) continue;
-            const int edits = distance.To(image_.Word(i));
-            if (edits > 3 || edits == 0) continue;
-            one_edit = one_edit || edits == 1;
-            pair.candidates.push_back(i);
-        }
-        // Three edits are for words that have nothing nearer, as in the search.
+        image_.ForEachNearRange(
+            {buckets.data(), count}, [&](std::uint32_t, std::uint32_t i, std::uint32_t last) {
+                for (; i < last; ++i) {
+                    const std::uint32_t groups = image_.Groups(i);
+                    if (std::popcount(groups & ~own) > 3 || std::popcount(own & ~groups) > 3)
+                        continue;
+                    const int edits = distance.To(image_.Word(i));
+                    if (edits > 3 || edits == 0) continue;
+                    one_edit = one_edit || edits == 1;
+                    pair.candidates.push_back(i);
+                }
+            });
+        std::sort(pair.candidates.begin(), pair.candidates.end());
+        pair.candidates.erase(std::unique(pair.candidates.begin(), pair.candidates.end()),
+                              pair.candidates.end());
         if (!one_edit && pair.written.size() >= 5) return;
         std::erase_if(pair.candidates,
                       [&](std::uint32_t i) { return distance.To(image_.Word(i)) > 2; });
+    }
+
+    void Prune(Pair& pair) {
+        Weigh(
+            unlearned_, pair, costs_, [](std::size_t, const Edit&) {},
+            [](std::size_t, const TraitValues&) {});
+        std::vector<double> ascending = costs_;
+        std::sort(ascending.begin(), ascending.end());
+        const double most = std::min(ascending[0] + kHopeless,
+                                     ascending[std::min(ascending.size(), kMostCandidates) - 1]);
+        std::size_t kept = 0;
+        for (std::size_t c = 0; c < costs_.size(); ++c) {
+            const bool right = c == pair.right;
+            if (!right && costs_[c] > most) continue;
+            if (right) pair.right = kept;
+            pair.candidates[kept++] = pair.candidates[c];
+        }
+        pair.candidates.resize(kept);
     }
 
     Spelling Spell(std::string_view bytes) const {
@@ -275,6 +308,7 @@ class Learner {
     const WordImage& image_;
     const AnsiCodePage& page_;
     std::array<Letter, 256> letters_;
+    Model unlearned_{Properties::Generic, 0};
     std::vector<double> costs_;
     std::vector<std::pair<std::size_t, Edit>> edits_;
     std::vector<TraitValues> traits_;
@@ -325,14 +359,21 @@ void Run(char** arguments) {
     const std::vector<Pair> pairs = learner.Read(arguments[1], reachable);
     const std::vector<Pair> tune = learner.Read(arguments[2], reachable);
     std::printf("%zu pairs to learn from, %zu to tune on\n", pairs.size(), tune.size());
+    constexpr double kSparsity = 0.004;  // of the table with letters
+    for (const Properties properties : {Properties::Generic, Properties::All}) {
+        Model model(properties, properties == Properties::All ? kSparsity : 0);
+        learner.Learn(model, pairs, tune, reachable);
+    }
+    std::vector<Pair> both = pairs;
+    both.insert(both.end(), tune.begin(), tune.end());
     std::string text =
         "// Written by bench/learn/learn.py from pairs of misspelling and word; not to be edited.\n"
         "// clang-format off\n";
     Model generic(Properties::Generic, 0);
-    learner.Learn(generic, pairs, tune, reachable);
+    learner.Learn(generic, both, {}, 0);
     text += TableText(generic, "Generic");
-    Model all(Properties::All, 0.004);
-    learner.Learn(all, pairs, tune, reachable);
+    Model all(Properties::All, kSparsity);
+    learner.Learn(all, both, {}, 0);
     text += TableText(all, "English");
     text += "// clang-format on\n";
     if (!ReplaceFileContents(arguments[3], text))
