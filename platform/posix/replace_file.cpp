@@ -17,13 +17,22 @@
 namespace wordhawk {
 namespace {
 
-/// Marks a temporary file as being written, for as long as one of its openings lives. Where locks
-/// are not to be had, the folder's own lock has to do.
-bool TryMarkAsAlive(const FileDescriptor& file) {
+/// Marks a temporary file as being written, for as long as one of its openings lives; 0, or the
+/// errno of the refusal, which is EAGAIN when somebody else has marked it.
+int MarkAsAlive(const FileDescriptor& file) {
     struct flock whole {};
     whole.l_type = F_WRLCK;
     whole.l_whence = SEEK_SET;
-    return fcntl(file.Get(), F_OFD_SETLK, &whole) == 0;
+    return fcntl(file.Get(), F_OFD_SETLK, &whole) == 0 ? 0 : errno;
+}
+
+/// Marks a new temporary file. False when a sweeper came between its making and its mark: it is
+/// gone, or about to be. Where locks are not to be had, the folder's own lock has to do.
+bool MarkNewFile(const FileDescriptor& file) {
+    const int refusal = MarkAsAlive(file);
+    if (refusal == EAGAIN || refusal == EACCES) return false;
+    struct stat status {};
+    return fstat(file.Get(), &status) != 0 || status.st_nlink > 0;
 }
 
 struct Temporary {
@@ -33,17 +42,17 @@ struct Temporary {
     FileDescriptor mark;
 };
 
-/// A fresh file beside `target`. Names that are taken are as good as impossible, hence few tries.
+/// A fresh file beside `target`. Names that are taken are as good as impossible, and a sweeper has
+/// to be quick to come in between, hence few tries.
 Temporary MakeTemporaryBeside(const Path& target) {
-    for (int tries = 0;; ++tries) {
+    constexpr int kTries = 100;
+    for (int tries = 1;; ++tries) {
         Path path = target.parent_path() / PathFromText(TemporaryName());
         FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (!file && errno == EEXIST && tries < 10) continue;
+        const bool ours = file ? MarkNewFile(file) : errno != EEXIST;
+        if (!ours && tries < kTries) continue;
         FileDescriptor mark;
-        if (file) {
-            TryMarkAsAlive(file);
-            mark = FileDescriptor(fcntl(file.Get(), F_DUPFD_CLOEXEC, 0));
-        }
+        if (file) mark = FileDescriptor(fcntl(file.Get(), F_DUPFD_CLOEXEC, 0));
         return {std::move(path), std::move(file), std::move(mark)};
     }
 }
@@ -112,7 +121,7 @@ void SweepTemporaries(const Path& folder) {
         const Path path = folder / PathFromText(entry.name);
         const FileDescriptor file(
             open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-        if (file && TryMarkAsAlive(file)) unlink(path.c_str());
+        if (file && MarkAsAlive(file) == 0) unlink(path.c_str());
     }
 }
 
