@@ -2,6 +2,7 @@
 
 #include "app/apostrophes.h"
 #include "dict/change_file.h"
+#include "dict/word_list.h"
 
 #include <optional>
 #include <utility>
@@ -10,12 +11,6 @@ namespace wordhawk {
 namespace {
 
 constexpr std::wstring_view kArrow = L"->";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
-std::wstring TextOf(std::string_view bytes, const AnsiCodePage& page) {
-    if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
-    return IsUtf8(bytes) ? FromUtf8(bytes) : page.Decode(bytes);
-}
 
 std::wstring Folded(std::wstring_view word) { return WithStraightApostrophes(Lower(word)); }
 
@@ -41,43 +36,34 @@ std::optional<ForbiddenWords::Entry> EntryOf(std::wstring_view line) {
     return entry;
 }
 
-/// Calls `take(line)` for each line, without its end.
-template <class Take>
-void ForEachLine(std::wstring_view text, Take&& take) {
-    while (!text.empty()) {
-        std::wstring_view line = CutOff(text, L"\n");
-        if (line.ends_with(L'\r')) line.remove_suffix(1);
-        take(line);
-    }
-}
-
-/// The text without the entries of a word, and whether there was one.
-std::pair<std::wstring, bool> Without(std::wstring_view text, std::wstring_view word) {
+/// The list's text without the entries of a word, and whether there was one.
+std::pair<std::wstring, bool> Without(std::wstring_view word, std::string_view bytes,
+                                      const AnsiCodePage& page) {
     std::pair<std::wstring, bool> result{{}, false};
-    ForEachLine(text, [&](std::wstring_view line) {
+    for (const std::wstring& line : LinesOfList(bytes, page)) {
         const auto entry = EntryOf(line);
         if (entry && entry->word == word) {
             result.second = true;
         } else {
             result.first.append(line).append(L"\r\n");
         }
-    });
+    }
     return result;
 }
 
 }  // namespace
 
 ForbiddenWords::ForbiddenWords(std::string_view bytes, const AnsiCodePage& page) {
-    ForEachLine(TextOf(bytes, page), [&](std::wstring_view line) {
+    for (const std::wstring& line : LinesOfList(bytes, page)) {
         std::optional<Entry> entry = EntryOf(line);
-        if (!entry) return;
+        if (!entry) continue;
         const auto [place, added] = places_.emplace(entry->word, entries_.size());
         if (added) {
             entries_.push_back(std::move(*entry));
         } else {
             entries_[place->second] = std::move(*entry);
         }
-    });
+    }
 }
 
 const ForbiddenWords::Entry* ForbiddenWords::Find(std::wstring_view word) const {
@@ -90,7 +76,7 @@ Result<void> ForbidWord(const Path& file, const ForbiddenWords::Entry& entry,
                         const AnsiCodePage& page) {
     const auto changed =
         ChangeDictionaryFile(file, [&](std::string_view bytes) -> std::optional<std::string> {
-            std::wstring text = Without(TextOf(bytes, page), Folded(entry.word)).first;
+            std::wstring text = Without(Folded(entry.word), bytes, page).first;
             text += entry.word;
             for (const std::wstring& preferred : entry.preferred)
                 text += (&preferred == &entry.preferred.front() ? L" -> " : L", ") + preferred;
@@ -102,7 +88,7 @@ Result<void> ForbidWord(const Path& file, const ForbiddenWords::Entry& entry,
 
 Result<bool> AllowWord(const Path& file, std::wstring_view word, const AnsiCodePage& page) {
     return ChangeDictionaryFile(file, [&](std::string_view bytes) -> std::optional<std::string> {
-        const auto [text, found] = Without(TextOf(bytes, page), Folded(word));
+        const auto [text, found] = Without(Folded(word), bytes, page);
         if (!found) return std::nullopt;
         return ToUtf8(text);
     });

@@ -13,8 +13,8 @@ namespace wordhawk {
 /// Words that are always flagged, whatever the dictionaries hold, and what to write instead: a
 /// house style, or slips that happen to be words. They stand in FORBIDDEN.TXT beside the custom
 /// dictionaries, one a line, "teh -> the" or "alot -> a lot, much" or "irregardless" alone, in
-/// UTF-8 or else the language's code page; lines that begin with "#" are notes. Words are compared
-/// in lower case, with typographic apostrophes read as straight ones.
+/// any encoding of word lists; lines that begin with "#" are notes. Words are compared in lower
+/// case, with typographic apostrophes read as straight ones.
 class ForbiddenWords {
   public:
     static inline const std::string_view kFileName = "FORBIDDEN.TXT";
@@ -39,9 +39,10 @@ class ForbiddenWords {
     std::unordered_map<std::wstring, std::size_t> places_;
 };
 
-/// Adds an entry to the file, in place of the word's earlier one. Nothing may hold a control
-/// character; the word no "->", and no "#" at its beginning; the preferred ones no comma. Errors:
-/// the file could not be read, locked or replaced; it is then as it was.
+/// Adds an entry to the file, in place of the word's earlier one; the file is UTF-8 afterwards.
+/// Nothing may hold a control character; the word no "->", and no "#" at its beginning; the
+/// preferred ones no comma. Errors: the file could not be read, locked or replaced; it is then as
+/// it was.
 Result<void> ForbidWord(const Path& file, const ForbiddenWords::Entry& entry,
                         const AnsiCodePage& page);
 

@@ -27,18 +27,6 @@ std::wstring Decoded(std::string_view bytes, const AnsiCodePage& page) {
     return IsUtf8(bytes) ? FromUtf8(bytes) : page.Decode(bytes);
 }
 
-std::vector<std::wstring> Lines(std::wstring_view text) {
-    std::vector<std::wstring> lines;
-    while (!text.empty()) {
-        const std::size_t feed = text.find(L'\n');
-        std::wstring_view line = text.substr(0, feed);
-        if (feed != text.npos && line.ends_with(L'\r')) line.remove_suffix(1);
-        lines.emplace_back(line);
-        text.remove_prefix(feed == text.npos ? text.size() : feed + 1);
-    }
-    return lines;
-}
-
 /// A number of words on the first line makes it hunspell's form, if the rest bears it out: about as
 /// many lines follow, or some of them have flags. A plain list may begin with a number, too.
 bool IsHunspellForm(const std::vector<std::wstring>& lines) {
@@ -74,8 +62,22 @@ std::wstring HunspellWord(std::wstring_view line) {
 
 }  // namespace
 
+std::vector<std::wstring> LinesOfList(std::string_view bytes, const AnsiCodePage& page) {
+    const std::wstring decoded = Decoded(bytes, page);
+    std::wstring_view text = decoded;
+    std::vector<std::wstring> lines;
+    while (!text.empty()) {
+        const std::size_t feed = text.find(L'\n');
+        std::wstring_view line = text.substr(0, feed);
+        if (feed != text.npos && line.ends_with(L'\r')) line.remove_suffix(1);
+        lines.emplace_back(line);
+        text.remove_prefix(feed == text.npos ? text.size() : feed + 1);
+    }
+    return lines;
+}
+
 std::vector<std::wstring> EntriesOfWordList(std::string_view bytes, const AnsiCodePage& page) {
-    std::vector<std::wstring> entries = Lines(Decoded(bytes, page));
+    std::vector<std::wstring> entries = LinesOfList(bytes, page);
     if (!IsHunspellForm(entries)) return entries;
     entries.erase(entries.begin());
     for (std::wstring& entry : entries) entry = HunspellWord(entry);

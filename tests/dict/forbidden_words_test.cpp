@@ -33,6 +33,7 @@ TEST(ForbiddenWords, AreReadLineByLine) {
         {"irregardless\nx ->\n-> y\n->", L"irregardless=;x=;", "without preferred ones"},
         {"teh -> the\nother\nTEH -> thee", L"teh=thee|;other=;", "the later counts"},
         {"\xEF\xBB\xBFh\xC3\xA9 -> eh\n", L"h\xE9=eh|;", "UTF-8 with a mark"},
+        {{"\xFF\xFEt\0e\0h\0-\0>\0t\0h\0e\0\n\0", 20}, L"teh=the|;", "UTF-16 with a mark"},
         {"h\xE9 -> \x80\n", L"h\xE9=\x20AC|;", "ANSI"},
         {"isn\xE2\x80\x99t -> is not", L"isn't=is not|;", "apostrophes"},
         {"a -> b -> c", L"a=b -> c|;", "the first arrow"},
@@ -53,6 +54,9 @@ TEST(ForbiddenWords, ChangeWithoutLosingTheOtherLines) {
     EXPECT_EQ(AllowWord(file, L"Other", Latin()), true);
     EXPECT_EQ(AllowWord(file, L"other", Latin()), false);
     EXPECT_EQ(test::ReadBytes(file), "# \xC3\xA9\r\nteh -> then, a b\r\n");
+    test::WriteBytes(file, {"\xFE\xFF\0x\0y\0\n", 8});
+    ASSERT_TRUE(ForbidWord(file, {L"teh", {L"the"}}, Latin()));
+    EXPECT_EQ(test::ReadBytes(file), "xy\r\nteh -> the\r\n");
     const Path fresh = folder / L"new" / L"FORBIDDEN.TXT";
     ASSERT_TRUE(ForbidWord(fresh, {L"x", {}}, Latin())) << "the folder is made";
     EXPECT_EQ(test::ReadBytes(fresh), "x\r\n");
