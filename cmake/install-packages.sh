@@ -48,7 +48,7 @@ BUILD_PACKAGES="cmake ninja-build g++ python3
 WORD_LIST_PACKAGES="wamerican-large wbritish-large wngerman wfrench hunspell-es witalian hunspell-it
     wdutch wportuguese wbrazilian wdanish hunspell-sv wpolish
     hunspell hunspell-da hunspell-de-de hunspell-fr hunspell-nl hunspell-pt-br hunspell-pt-pt
-    onboard-data wamerican-small wbritish-small"
+    onboard-data wamerican wamerican-small wbritish wbritish-small"
 # The cross build of the window, and what it runs with here.
 WINDOW_PACKAGES="g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 libwine
     fonts-wine fonts-liberation"

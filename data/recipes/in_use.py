@@ -1,8 +1,11 @@
-"""Words that people use, the most frequent first: the single words of a language model's counts."""
+"""Words that people use, the most frequent first: the single words of a language model's counts, and behind
+them those of more models and of lists of common words."""
 
 import argparse
 import re
 from pathlib import Path
+
+from words import read_words
 
 WORD = re.compile(r"[^\W\d_]+(?:['’-][^\W\d_]+)*")
 
@@ -25,10 +28,15 @@ def counted_words(path):
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--output", required=True)
-    parser.add_argument("model")
+    parser.add_argument("--lists", nargs="*", default=[])
+    parser.add_argument("--models", nargs="+", required=True)
     arguments = parser.parse_args()
-    words = sorted(counted_words(arguments.model), key=lambda entry: (-entry[1], entry[0]))
-    text = "".join(f"{word}\n" for word, _ in words)
+    words = []
+    for model in arguments.models:
+        words += [word for word, _ in sorted(counted_words(model), key=lambda entry: (-entry[1], entry[0]))]
+    for file in arguments.lists:
+        words += read_words(file)
+    text = "".join(f"{word}\n" for word in words)
     Path(arguments.output).write_text(text, encoding="utf-8", newline="\n")
 
 
