@@ -12,11 +12,14 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 
+MOST_LINES = 15  # of what a failed test said
+
+
 class Count:
     def __init__(self):
         self.passed = 0
         self.skipped = 0
-        self.failures = []
+        self.failures = []  # pairs of a name and what the test said
 
     def add(self, other):
         self.passed += other.passed
@@ -31,13 +34,19 @@ def count_cases(path):
         name = f"{case.get('classname')}.{case.get('name')}"
         if case.get("status") in ("notrun", "disabled"):
             continue
-        if case.find("failure") is not None or case.get("status") == "fail":
-            count.failures.append(name)
+        failure = case.find("failure")
+        if failure is not None or case.get("status") == "fail":
+            count.failures.append((name, "" if failure is None else failure.text or failure.get("message", "")))
         elif case.find("skipped") is not None or case.get("result") == "skipped":
             count.skipped += 1
         else:
             count.passed += 1
     return count
+
+
+def without_successes(said):
+    """What a test program said, but for its tests that passed."""
+    return "\n".join(line for line in said.splitlines() if "[       OK ]" not in line and "SKIPPED" not in line)
 
 
 def count_program(test, folder):
@@ -50,7 +59,7 @@ def count_program(test, folder):
         try:
             count.add(count_cases(file))
         except ElementTree.ParseError:
-            count.failures.append(f"{name}: unreadable results")
+            count.failures.append((f"{name}: unreadable results", ""))
     if not files and ended_well:
         # A script, or a program that GoogleTest has no part in.
         if test.find("skipped") is not None:
@@ -61,7 +70,8 @@ def count_program(test, folder):
         if test.get("status") in ("notrun", "disabled") and test.find("skipped") is not None:
             count.skipped += 1
         else:
-            count.failures.append(f"{name} (ended badly: {test.get('status')})")
+            said = test.findtext("system-out") or ""
+            count.failures.append((f"{name} (ended badly: {test.get('status')})", without_successes(said)))
     return count
 
 
@@ -70,12 +80,12 @@ def count_build(folder):
     try:
         tests = list(ElementTree.parse(folder / "ctest.xml").getroot().iter("testcase"))
     except (OSError, ElementTree.ParseError) as error:
-        count.failures.append(f"no test results: {error}")
+        count.failures.append((f"no test results: {error}", ""))
         return count
     for test in tests:
         count.add(count_program(test, folder))
     if not tests:
-        count.failures.append("no tests found")
+        count.failures.append(("no tests found", ""))
     return count
 
 
@@ -83,7 +93,7 @@ def main():
     results = Path(sys.argv[1])
     total = Count()
     for failed in sorted(results.glob("*.failed")):
-        total.failures.append(f"step {failed.stem}")
+        total.failures.append((f"step {failed.stem}", ""))
     for file in sorted(results.glob("*.xml")):
         count = count_cases(file)
         print(f"{file.stem}: {count.passed} passed, {len(count.failures)} failed")
@@ -92,10 +102,12 @@ def main():
         count = count_build(folder)
         note = f", {count.skipped} skipped" if count.skipped else ""
         print(f"{folder.name}: {count.passed} passed, {len(count.failures)} failed{note}")
-        count.failures = [f"{folder.name}: {name}" for name in count.failures]
+        count.failures = [(f"{folder.name}: {name}", said) for name, said in count.failures]
         total.add(count)
-    for name in total.failures:
+    for name, said in total.failures:
         print(f"FAILED {name}")
+        for line in said.strip().splitlines()[:MOST_LINES]:
+            print("    " + line[:300])
     print(f"{total.passed} passed, {len(total.failures)} failed")
     return 1 if total.failures or not total.passed else 0
 
