@@ -36,6 +36,7 @@ class Scale(CliTest):
         recipes = re.findall(r"^```sh\n(.*?)^```", PAGE.read_text(encoding="utf-8"), re.MULTILINE | re.DOTALL)
         self.assertGreaterEqual(len(recipes), 7)
         environment = dict(os.environ, PATH=f"{tools}{os.pathsep}{os.environ['PATH']}", HOME=str(self.folder))
+        environment.pop("SHELL", None)  # as where a service runs the recipes
         done = subprocess.run(["sh", "-e"], input="\n".join(recipes).encode(), cwd=self.folder, env=environment,
                               capture_output=True, timeout=300)
         self.assertEqual(done.returncode, 0, done.stderr.decode())
