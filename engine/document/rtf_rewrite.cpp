@@ -3,6 +3,7 @@
 #include "engine/document/rtf_formats.h"
 #include "engine/document/rtf_lexer.h"
 #include "engine/document/rtf_tables.h"
+#include "engine/document/rtf_unicode.h"
 #include "engine/document/rtf_vocabulary.h"
 #include "platform/text.h"
 
@@ -94,7 +95,7 @@ class Rewriter {
     }
 
     void Open() {
-        to_skip_ = 0;
+        fallback_.End();
         starred_ = false;
         if (outer_.size() >= kDeepestGroup) {
             ++too_deep_;
@@ -104,7 +105,7 @@ class Rewriter {
     }
 
     void Close() {
-        to_skip_ = 0;
+        fallback_.End();
         starred_ = false;
         if (too_deep_ > 0) {
             --too_deep_;
@@ -127,7 +128,7 @@ class Rewriter {
 
     void Symbol(char symbol) {
         starred_ = symbol == '*';
-        if (starred_ || SkipOne()) return;
+        if (starred_ || fallback_.TakesOne()) return;
         switch (symbol) {
             case '\\':
             case '{':
@@ -145,7 +146,7 @@ class Rewriter {
     void Word(const RtfToken& word) {
         const bool starred = std::exchange(starred_, false);
         if (IsMissed(word.text) && group_.place != Place::Nowhere) dropped_ = true;
-        if (SkipOne() || word.text == "bin") return;
+        if (fallback_.TakesOne() || word.text == "bin") return;
         if (starred ? Starred(word.text) : Destination(word.text)) return;
         switch (group_.place) {
             case Place::Fonts: fonts_.Take(word); break;
@@ -235,28 +236,13 @@ class Rewriter {
     }
 
     void Unicode(int value) {
-        if (value < 0) value += 0x10000;
-        if (value > 0xFFFF && value <= 0x10FFFF) {
-            Character(static_cast<wchar_t>(0xD800 + ((value - 0x10000) >> 10)));
-            Character(static_cast<wchar_t>(0xDC00 + (value & 0x3FF)));
-        } else if (value >= 0 && value <= 0xFFFF) {
-            Character(static_cast<wchar_t>(value));
-        }
-        to_skip_ = group_.skip_count;
-    }
-
-    /// Whether the character just read belongs to the form for readers without Unicode.
-    bool SkipOne() {
-        if (to_skip_ == 0) return false;
-        --to_skip_;
-        return true;
+        Characters(TextOfUnicodeWord(value));
+        fallback_.Begin(group_.skip_count);
     }
 
     void Bytes(std::string_view bytes) {
         starred_ = false;
-        const std::size_t skipped = std::min(bytes.size(), static_cast<std::size_t>(to_skip_));
-        to_skip_ -= static_cast<int>(skipped);
-        bytes.remove_prefix(skipped);
+        bytes = fallback_.Behind(bytes);
         if (bytes.empty() || group_.place == Place::Nowhere || group_.deleted) return;
         if (group_.place == Place::Colours) return colours_.TakeText(bytes);
         const int charset = fonts_.Charset(group_.character[CharacterProperty::Font]);
@@ -377,7 +363,7 @@ class Rewriter {
     std::size_t too_deep_ = 0;
     bool finished_ = false;
     bool starred_ = false;
-    int to_skip_ = 0;
+    RtfFallback fallback_;
     bool dropped_ = false;
 
     std::string body_;

@@ -1,6 +1,7 @@
 #include "engine/document/rtf_text.h"
 
 #include "engine/document/rtf_lexer.h"
+#include "engine/document/rtf_unicode.h"
 #include "engine/document/rtf_vocabulary.h"
 #include "platform/text.h"
 
@@ -55,7 +56,7 @@ class RtfTextReader::Reader {
     }
 
     void OpenGroup() {
-        to_skip_ = 0;
+        fallback_.End();
         starred_ = false;
         if (outer_.size() >= kDeepestGroup) {
             ++too_deep_;
@@ -66,7 +67,7 @@ class RtfTextReader::Reader {
     }
 
     void CloseGroup() {
-        to_skip_ = 0;
+        fallback_.End();
         starred_ = false;
         if (too_deep_ > 0) {
             --too_deep_;
@@ -85,7 +86,7 @@ class RtfTextReader::Reader {
     void Symbol(char symbol) {
         starred_ = symbol == '*';
         if (starred_) return;
-        if (SkipOne()) return;
+        if (fallback_.TakesOne()) return;
         switch (symbol) {
             case '\\':
             case '{':
@@ -102,7 +103,7 @@ class RtfTextReader::Reader {
     void ControlWord(const RtfToken& token) {
         const bool starred = starred_;
         starred_ = false;
-        if (SkipOne() || token.text == "bin") return;
+        if (fallback_.TakesOne() || token.text == "bin") return;
         if (starred) {
             Starred(token.text);
         } else if (!Destination(token.text)) {
@@ -175,31 +176,14 @@ class RtfTextReader::Reader {
                                       : PageOfCharset(found->second, document_page_));
     }
 
-    /// A UTF-16 unit as a signed number (some writers give the whole code point), followed by
-    /// its form for readers without Unicode.
     void Unicode(int value) {
-        if (value < 0) value += 65536;
-        if (value > 0xFFFF && value <= 0x10FFFF) {
-            Append(static_cast<wchar_t>(0xD800 + ((value - 0x10000) >> 10)));
-            Append(static_cast<wchar_t>(0xDC00 + (value & 0x3FF)));
-        } else if (value >= 0 && value <= 0xFFFF) {
-            Append(static_cast<wchar_t>(value));
-        }
-        to_skip_ = group_.skip_count;
-    }
-
-    /// Whether the character just read belongs to the form for readers without Unicode.
-    bool SkipOne() {
-        if (to_skip_ == 0) return false;
-        --to_skip_;
-        return true;
+        for (const wchar_t unit : TextOfUnicodeWord(value)) Append(unit);
+        fallback_.Begin(group_.skip_count);
     }
 
     void Bytes(std::string_view bytes) {
         starred_ = false;
-        const std::size_t skipped = std::min(bytes.size(), static_cast<std::size_t>(to_skip_));
-        to_skip_ -= static_cast<int>(skipped);
-        bytes.remove_prefix(skipped);
+        bytes = fallback_.Behind(bytes);
         if (group_.skip || group_.hidden || group_.deleted) return;
         for (const char c : bytes) {
             const auto byte = static_cast<unsigned char>(c);
@@ -218,7 +202,7 @@ class RtfTextReader::Reader {
     std::size_t too_deep_ = 0;
     bool finished_ = false;
     bool starred_ = false;
-    int to_skip_ = 0;
+    RtfFallback fallback_;
     int document_page_ = 1252;
     int default_font_ = 0;
     int font_in_table_ = 0;
