@@ -148,6 +148,10 @@ bool IsUtf8(std::string_view bytes) {
     return true;
 }
 
+bool IsAscii(std::string_view bytes) {
+    return AsciiPrefix(bytes.data(), bytes.size()) == bytes.size();
+}
+
 std::size_t CountCharacters(std::wstring_view text) {
     std::size_t pairs = 0;
     for (std::size_t i = 0; i + 1 < text.size(); ++i) {
@@ -217,11 +221,9 @@ AnsiCodePage::AnsiCodePage(int number) : number_(number) {
         for (std::size_t byte = 0; byte < 256; ++byte)
             to_unicode_[byte] = static_cast<wchar_t>(byte);
     }
-    to_byte_.fill(-1);
     // Downwards, so that of two bytes for one character the lower wins.
     for (int byte = 255; byte >= 0; --byte) {
-        to_byte_[static_cast<std::uint16_t>(to_unicode_[static_cast<std::size_t>(byte)])] =
-            static_cast<std::int16_t>(byte);
+        to_byte_.Set(to_unicode_[static_cast<std::size_t>(byte)], static_cast<std::int16_t>(byte));
     }
     for (std::size_t byte = 0; byte < 256; ++byte) {
         lower_[byte] = ToByte(LowerChar(to_unicode_[byte]));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/unit_table.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -21,6 +23,8 @@ std::string ToUtf8(std::wstring_view text);
 
 /// Whether `bytes` is well-formed UTF-8 (pure ASCII included).
 bool IsUtf8(std::string_view bytes);
+
+bool IsAscii(std::string_view bytes);
 
 /// Number of code points in `text`: a surrogate pair counts once, a lone surrogate once.
 std::size_t CountCharacters(std::wstring_view text);
@@ -44,8 +48,9 @@ std::wstring_view Trim(std::wstring_view text);
 std::int32_t NumberOrZero(std::wstring_view text);
 
 /// A single-byte code page by its Windows number: 874 and 1250 to 1258, in which dictionaries are
-/// kept; ISO 8859 (28591 to 28605) and KOI8 (20866, 21866), in which others' lists may be. Bytes that the page leaves undefined stand
-/// for the code point of the same number; a character that the page cannot hold becomes "?".
+/// kept; ISO 8859 (28591 to 28605) and KOI8 (20866, 21866), in which others' lists may be. Bytes
+/// that the page leaves undefined stand for the code point of the same number; a character that the
+/// page cannot hold becomes "?".
 class AnsiCodePage {
   public:
     /// Tables of `number`; an unknown number gives 1252. The object lives as long as the process.
@@ -55,9 +60,8 @@ class AnsiCodePage {
     wchar_t ToUnicode(unsigned char byte) const { return to_unicode_[byte]; }
     /// The byte of `c`, or -1 when the page has none.
     int ToByteOrNone(wchar_t c) const {
-        return static_cast<std::uint32_t>(c) < to_byte_.size()
-                   ? to_byte_[static_cast<std::uint32_t>(c)]
-                   : -1;
+        const auto code = static_cast<std::uint32_t>(c);
+        return code == static_cast<std::uint16_t>(c) ? to_byte_[c] : -1;
     }
     unsigned char ToByte(wchar_t c) const {
         const int byte = ToByteOrNone(c);
@@ -75,7 +79,7 @@ class AnsiCodePage {
   private:
     int number_;
     std::array<wchar_t, 256> to_unicode_;
-    std::array<std::int16_t, 65536> to_byte_;
+    UnitTable<std::int16_t> to_byte_{-1};
     std::array<unsigned char, 256> lower_;
     std::array<unsigned char, 256> upper_;
 };
