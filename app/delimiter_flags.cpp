@@ -1,7 +1,5 @@
 #include "app/delimiter_flags.h"
 
-#include "platform/modSect.h"
-
 #include <algorithm>
 
 namespace wordhawk {
@@ -49,8 +47,12 @@ const std::string& DelimiterFlagStore::DefaultFlags() {
 }
 
 void DelimiterFlagStore::Load(const Path& settings_file) {
+    Load(settings_file, modSect::ProfileReader(settings_file));
+}
+
+void DelimiterFlagStore::Load(const Path& settings_file, const modSect::ProfileReader& settings) {
     settings_file_ = settings_file;
-    flags_ = stored_ = FlagsIn(modSect::ReadSection(settings_file, kSection));
+    flags_ = stored_ = FlagsIn(settings.ReadSection(kSection));
 }
 
 bool DelimiterFlagStore::Save() {

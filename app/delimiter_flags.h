@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/files.h"
+#include "platform/modSect.h"
 #include "platform/text.h"
 
 #include <bitset>
@@ -22,6 +23,8 @@ class DelimiterFlagStore {
     /// Reads the flags from key "DSA" of section "Settings"; a missing or short text is filled up
     /// from the default.
     void Load(const Path& settings_file);
+    /// The same by who has read the file already.
+    void Load(const Path& settings_file, const modSect::ProfileReader& settings);
     /// Writes all 255 flags: those set since Load, the others as the file has them by now. False
     /// when the file could not be written.
     bool Save();

@@ -103,6 +103,15 @@ std::vector<std::wstring> NamesOf(const std::vector<std::wstring>& entries) {
     return names;
 }
 
+/// Reads the active custom dictionaries; an empty section makes `settings.CustomDic` CUSTOM.DIC.
+void LoadCustomDictionaryList(const modSect::ProfileReader& file, Settings& settings) {
+    settings.CustomDictionaries = NamesOf(file.ReadSection(kDictionariesSection));
+    if (settings.CustomDictionaries.empty()) {
+        settings.CustomDictionaries.emplace_back(kDefaultDictionary);
+        settings.CustomDic = kDefaultDictionary;
+    }
+}
+
 /// Numbers the names, or CUSTOM.DIC where there are none. One that the file's page cannot hold is
 /// refused: it would come back as another name.
 Result<void> WriteNames(const ProgramState& state, modSect::Change& change,
@@ -131,6 +140,11 @@ const SettingRow* FindRow(std::wstring_view key) {
 }
 
 Settings LoadSettings(const ProgramState& state) {
+    return LoadSettings(state, modSect::ProfileReader(state.SettingsProfile()), {});
+}
+
+Settings LoadSettings(const ProgramState& state, const modSect::ProfileReader& file,
+                      std::span<const KeyAndText> defaults) {
     Settings settings;
     std::vector<const SettingRow*> rows;
     std::vector<modSect::KeyAndValue> keys;
@@ -139,20 +153,16 @@ Settings LoadSettings(const ProgramState& state) {
         rows.push_back(&row);
         keys.push_back({std::wstring(row.key), std::wstring(row.default_text)});
     }
-    const std::vector<std::wstring> values =
-        modSect::ReadSettings(kSettingsSection, keys, state.SettingsProfile());
+    const std::vector<std::wstring> values = file.ReadSettings(kSettingsSection, keys);
     for (std::size_t i = 0; i < rows.size(); ++i) rows[i]->assign(settings, values[i]);
-    LoadCustomDictionaryList(state, settings);
-    return settings;
-}
-
-void LoadCustomDictionaryList(const ProgramState& state, Settings& settings) {
-    settings.CustomDictionaries =
-        NamesOf(modSect::ReadSection(state.SettingsProfile(), kDictionariesSection));
-    if (settings.CustomDictionaries.empty()) {
-        settings.CustomDictionaries.emplace_back(kDefaultDictionary);
-        settings.CustomDic = kDefaultDictionary;
+    for (const auto& [key, value] : defaults) {
+        const SettingRow* const row = FindRow(key);
+        // An empty value does not name it either.
+        const bool named = !file.ReadSetting(kSettingsSection, key, {}).empty();
+        if (row != nullptr && !named) row->assign(settings, value);
     }
+    LoadCustomDictionaryList(file, settings);
+    return settings;
 }
 
 bool SaveCustomDictionaryList(const ProgramState& state, std::span<const std::wstring> names) {

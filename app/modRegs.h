@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace wordhawk {
@@ -77,8 +78,12 @@ const SettingRow* FindRow(std::wstring_view key);
 /// Reads every setting and the custom dictionary list from the settings file.
 Settings LoadSettings(const ProgramState& state);
 
-/// Reads the active custom dictionaries; an empty section makes `settings.CustomDic` CUSTOM.DIC.
-void LoadCustomDictionaryList(const ProgramState& state, Settings& settings);
+/// A value for a setting that the file may not name.
+using KeyAndText = std::pair<std::wstring, std::wstring>;
+
+/// The same by who has read the file already, with other defaults than those of the table.
+Settings LoadSettings(const ProgramState& state, const modSect::ProfileReader& file,
+                      std::span<const KeyAndText> defaults);
 
 /// Writes the list under keys "0", "1", ...; an empty list is written as CUSTOM.DIC. Keys of an
 /// earlier, longer list stay in the file and are read again at the next start. False when the

@@ -34,23 +34,20 @@ Program::Program(ProgramOptions options, UiServices& services)
     OverrideLanguage();
     InstallDictionaries();
 
-    flags.Load(state.SettingsFile);
+    const modSect::ProfileReader settings_file(state.SettingsProfile());
+    flags.Load(state.SettingsFile, settings_file);
     for (const auto& [index, value] : options_.flag_overrides) flags.Set(index, value);
     UseCodePageOfLanguage();
 
     state.ProgramMode = options_.program_mode;
     state.WindowMode = options_.program_mode;
-    ReloadSettings();
+    LoadSettings(settings_file);
 }
 
-void Program::ReloadSettings() {
-    settings = modRegs::LoadSettings(state);
-    for (const auto& [key, value] : options_.setting_defaults) {
-        const modRegs::SettingRow* const row = modRegs::FindRow(key);
-        const bool named =
-            !modSect::ReadSetting(modRegs::kSettingsSection, key, L"", state.SettingsFile).empty();
-        if (row != nullptr && !named) row->assign(settings, value);
-    }
+void Program::ReloadSettings() { LoadSettings(modSect::ProfileReader(state.SettingsProfile())); }
+
+void Program::LoadSettings(const modSect::ProfileReader& file) {
+    settings = modRegs::LoadSettings(state, file, options_.setting_defaults);
     for (const auto& [key, value] : options_.setting_overrides) {
         if (const modRegs::SettingRow* row = modRegs::FindRow(key)) row->assign(settings, value);
     }

@@ -60,6 +60,7 @@ class Program {
     std::wstring ChangeLanguage();
 
   private:
+    void LoadSettings(const modSect::ProfileReader& file);
     void OverrideLanguage();
     void InstallLanguages();
     void InstallDictionaries();

@@ -15,6 +15,16 @@ std::wstring_view WithoutQuotes(std::wstring_view text) {
     return text.substr(1, text.size() - 2);
 }
 
+/// What a file with these bytes holds after the change.
+Result<std::string> Changed(std::string_view bytes, const AnsiCodePage& page,
+                            const std::function<Result<void>(Change&)>& change) {
+    ProfileText text(bytes, page);
+    Change wanted(text, page);
+    if (const Result<void> changed = change(wanted); !changed)
+        return tl::unexpected(changed.error());
+    return text.Bytes();
+}
+
 }  // namespace
 
 std::wstring_view StripNull(std::wstring_view text) { return text.substr(0, text.find(L'\0')); }
@@ -61,6 +71,12 @@ bool Change::CanHold(std::wstring_view text) const {
 
 Result<void> ChangeProfile(const ProfileFile& file,
                            const std::function<Result<void>(Change&)>& change) {
+    const AnsiCodePage& page = ProfilePage(file.page);
+    // A file is replaced whole, so what is read without the lock stood there at one moment.
+    if (const Result<std::string> bytes = ReadWholeFile(file.path)) {
+        const Result<std::string> wanted = Changed(*bytes, page, change);
+        if (wanted && *wanted == *bytes) return {};
+    }
     const Result<LockedFile> locked = LockForChange(file.path);
     if (!locked) return tl::unexpected(locked.error());
     const bool is_new = IsMissing(locked->path);
@@ -71,13 +87,10 @@ Result<void> ChangeProfile(const ProfileFile& file,
         if (!bytes) return tl::unexpected(Error{bytes.error().what, file.path});
         old_bytes = std::move(*bytes);
     }
-    const AnsiCodePage& page = ProfilePage(file.page);
-    ProfileText text(old_bytes, page);
-    Change wanted(text, page);
-    if (const Result<void> changed = change(wanted); !changed) return changed;
-    const std::string new_bytes = text.Bytes();
-    if (!is_new && new_bytes == old_bytes) return {};
-    const Result<void> replaced = ReplaceFileContents(locked->path, new_bytes);
+    const Result<std::string> new_bytes = Changed(old_bytes, page, change);
+    if (!new_bytes) return tl::unexpected(new_bytes.error());
+    if (!is_new && *new_bytes == old_bytes) return {};
+    const Result<void> replaced = ReplaceFileContents(locked->path, *new_bytes);
     if (!replaced) return tl::unexpected(Error{replaced.error().what, file.path});
     return {};
 }

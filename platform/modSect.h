@@ -4,6 +4,7 @@
 #include "platform/profile_text.h"
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -49,6 +50,28 @@ std::vector<std::wstring> ReadSettings(std::wstring_view section,
                                        std::span<const KeyAndValue> keys_and_defaults,
                                        const ProfileFile& file);
 
+/// All "key=value" texts of a section in file order, of any length. An empty or missing section
+/// gives one empty text.
+std::vector<std::wstring> ReadSection(const ProfileFile& file, std::wstring_view section);
+
+/// A profile file for many questions, which give what the functions of the same names give. Off
+/// Windows it is read once.
+class ProfileReader {
+  public:
+    explicit ProfileReader(ProfileFile file);
+
+    std::wstring ReadSetting(std::wstring_view section, std::wstring_view key,
+                             std::wstring_view default_text) const;
+    std::vector<std::wstring> ReadSettings(std::wstring_view section,
+                                           std::span<const KeyAndValue> keys_and_defaults) const;
+    std::vector<std::wstring> ReadSection(std::wstring_view section) const;
+
+  private:
+    ProfileFile file_;
+    /// Off Windows, what the file holds.
+    std::optional<ProfileText> text_;
+};
+
 /// Writes a value, making file and section when missing; comments, order and unknown keys stay.
 /// False when the file could not be written (it is then as it was).
 bool WriteSetting(std::wstring_view section, std::wstring_view key, std::wstring_view value,
@@ -78,13 +101,10 @@ class Change {
 
 /// Reads, changes and replaces a file under its lock: for every new value that depends on an old
 /// one. An error of `change` leaves the file as it is and is handed on. `change` must not call any
-/// other function that writes the same file.
+/// other function that writes the same file; what it does is tried without the lock first, so that
+/// a file that is to stay as it is costs none, and done again under it.
 Result<void> ChangeProfile(const ProfileFile& file,
                            const std::function<Result<void>(Change&)>& change);
-
-/// All "key=value" texts of a section in file order, of any length. An empty or missing section
-/// gives one empty text.
-std::vector<std::wstring> ReadSection(const ProfileFile& file, std::wstring_view section);
 
 /// The part before the first NUL, or the whole text.
 std::wstring_view StripNull(std::wstring_view text);

@@ -102,5 +102,21 @@ std::vector<std::wstring> ReadSection(const ProfileFile& file, std::wstring_view
     return entries;
 }
 
+ProfileReader::ProfileReader(ProfileFile file) : file_(std::move(file)) {}
+
+std::wstring ProfileReader::ReadSetting(std::wstring_view section, std::wstring_view key,
+                                        std::wstring_view default_text) const {
+    return modSect::ReadSetting(section, key, default_text, file_);
+}
+
+std::vector<std::wstring> ProfileReader::ReadSettings(
+    std::wstring_view section, std::span<const KeyAndValue> keys_and_defaults) const {
+    return modSect::ReadSettings(section, keys_and_defaults, file_);
+}
+
+std::vector<std::wstring> ProfileReader::ReadSection(std::wstring_view section) const {
+    return modSect::ReadSection(file_, section);
+}
+
 }  // namespace modSect
 }  // namespace wordhawk
