@@ -5,6 +5,7 @@
 #include "dict/lines.h"
 #include "dict/pack_extras.h"
 #include "dict/sorted_words.h"
+#include "platform/file_stamps.h"
 #include "platform/replace_file.h"
 #include "platform/single_writer.h"
 
@@ -106,7 +107,18 @@ Result<void> WritePackList(const Path& folder, PackOrigin origin) {
                                Durability::LeftToTheSystem);
 }
 
+void NoteSamePack(const Path& installed, const Path& shipped) {
+    std::error_code ignored;
+    const fs::file_time_type shipped_at = fs::last_write_time(shipped / kPackListFile, ignored);
+    if (!ignored) fs::last_write_time(installed / kPackListFile, shipped_at, ignored);
+}
+
 bool IsOtherPack(const Path& installed, const Path& shipped) {
+    // A copy carries its source's time, which saves reading both at every start.
+    const FileStamp shipped_stamp = StampOf(shipped / kPackListFile);
+    const FileStamp installed_stamp = StampOf(installed / kPackListFile);
+    if (shipped_stamp.size == installed_stamp.size && shipped_stamp.time == installed_stamp.time)
+        return false;
     const std::string wanted = ContentsOrNothing(shipped / kPackListFile);
     if (wanted.empty()) return false;
     if (!IsFile(installed / kPackListFile)) return IsFile(installed / kFrequenciesFile);
@@ -127,8 +139,10 @@ Result<void> UpdatePack(const Path& installed, const Path& shipped) {
     for (const Path& file : FilesIn(installed)) {
         if (std::ranges::find(files, file) == files.end()) update.Drop(file);
     }
-    return ReplaceFileContents(installed / kPackListFile,
-                               ContentsOrNothing(shipped / kPackListFile));
+    const Result<void> noted =
+        ReplaceFileContents(installed / kPackListFile, ContentsOrNothing(shipped / kPackListFile));
+    if (noted) NoteSamePack(installed, shipped);
+    return noted;
 }
 
 }  // namespace wordhawk

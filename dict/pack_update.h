@@ -20,6 +20,10 @@ Result<void> WritePackList(const Path& folder, PackOrigin origin);
 /// program put there, with or without such a list. False where its owner built it.
 bool IsOtherPack(const Path& installed, const Path& shipped);
 
+/// Gives the list of a pack that was just copied the time of the one that it is a copy of, by which
+/// IsOtherPack knows them to be the same without reading them.
+void NoteSamePack(const Path& installed, const Path& shipped);
+
 /// Brings the files in `installed` up to those of the pack `shipped`. A file that was changed since
 /// it was installed keeps all its words beside the new ones; so does every file of a pack that came
 /// without a list, but for the pieces that the new pack has in a list of their own. The list comes

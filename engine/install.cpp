@@ -14,6 +14,9 @@ namespace {
 namespace fs = std::filesystem;
 
 bool HasDictionary(const Path& folder) {
+    // Nearly every language has words that begin so; the list of a folder with hundreds of files
+    // takes longer to get than all else at a start.
+    if (!IsMissing(folder / "in_.dic")) return true;
     std::error_code failed;
     for (fs::directory_iterator at(folder, failed), end; !failed && at != end;
          at.increment(failed)) {
@@ -52,6 +55,7 @@ Result<bool> InstallShippedDictionaries(const ProgramState& state, const Path& s
     std::error_code failed;
     fs::remove_all(copy, failed);
     fs::copy(source, copy, failed);
+    NoteSamePack(copy, source);
     if (failed) {
         const std::wstring reason = FromUtf8(failed.message());
         fs::remove_all(copy, failed);

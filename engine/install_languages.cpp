@@ -4,6 +4,7 @@
 #include "lang/built_in_texts.h"
 #include "lang/modLoadRes.h"
 #include "lang/whole_number.h"
+#include "platform/file_stamps.h"
 #include "platform/modSect.h"
 #include "platform/replace_file.h"
 
@@ -81,13 +82,16 @@ bool IsGenerated(const Path& file) {
     });
 }
 
-void Install(const Path& source, const Path& target) {
+/// `shipped` is the stamp of `source`.
+void Install(const Path& source, const FileStamp& shipped_stamp, const Path& target) {
+    // A copy carries its source's time, which saves reading both at every start.
+    if (shipped_stamp == FileStamp{} || StampOf(target).time == shipped_stamp.time) return;
+
     std::error_code failed;
     const fs::file_time_type shipped_at = fs::last_write_time(source, failed);
     if (failed) return;
     const bool present = fs::exists(target, failed);
-    // A copy carries its source's time, which saves reading both at every start.
-    if (failed || (present && fs::last_write_time(target, failed) == shipped_at)) return;
+    if (failed) return;
 
     const Result<std::string> shipped = ReadWholeFile(source);
     if (!shipped) return;
@@ -114,17 +118,20 @@ void InstallShippedLanguages(const ProgramState& state, const Path& shipped, int
         return PathFromText(std::wstring(kPrefix) + std::to_wstring(locale) +
                             std::wstring(kExtension));
     };
-    const auto install = [&](int source, int locale) {
-        Install(shipped / file_of(source),
-                state.ResourcesFolder() / std::to_string(locale) / file_of(locale));
+    const Path resources = state.ResourcesFolder();
+    const auto target_of = [&](int locale) {
+        return resources / std::to_string(locale) / file_of(locale);
     };
-    for (const std::wstring& name : ListFiles(shipped, kExtension)) {
+    for (const auto& [name, stamp] : StampedFiles(shipped, kExtension)) {
         const std::wstring_view stem(name.data(), name.size() - kExtension.size());
         if (!stem.starts_with(kPrefix)) continue;
-        if (const auto locale = WholeNumber(stem.substr(kPrefix.size()))) install(*locale, *locale);
+        if (const auto locale = WholeNumber(stem.substr(kPrefix.size())))
+            Install(shipped / file_of(*locale), stamp, target_of(*locale));
     }
     const int pack = ShippedPackOf(wanted);
-    if (pack != 0 && pack != wanted) install(pack, wanted);
+    if (pack == 0 || pack == wanted) return;
+    const Path source = shipped / file_of(pack);
+    Install(source, StampOf(source), target_of(wanted));
 }
 
 }  // namespace wordhawk

@@ -41,8 +41,9 @@ Result<std::string> ReadWholeFile(const Path& path, Accepted accepted) {
             if (errno == EINTR) continue;
             return tl::unexpected(ErrorFromErrno(errno, path));
         }
-        if (got == 0) break;
         used += static_cast<std::size_t>(got);
+        // Less than there was room for is all of a file that has a size.
+        if (got == 0 || (status.st_size > 0 && used < bytes.size())) break;
     }
     bytes.resize(used);
     return bytes;
@@ -79,6 +80,7 @@ bool IsFolder(const Path& path) {
 }
 
 bool MakeFolder(const Path& path) {
+    if (IsFolder(path)) return true;
     std::error_code error;
     std::filesystem::create_directories(path, error);
     return IsFolder(path);

@@ -66,6 +66,8 @@ TEST_F(PackUpdate, KeepsWhatTheUserAddedAndReplacesTheRest) {
     EXPECT_FALSE(fs::exists(installed_ / kCompoundsFile));
     EXPECT_TRUE(fs::exists(installed_ / "frequencies.txt"));
     EXPECT_FALSE(IsOtherPack(installed_, shipped_)) << "it is up to date";
+    EXPECT_EQ(fs::last_write_time(installed_ / kPackListFile),
+              fs::last_write_time(shipped_ / kPackListFile));
 }
 
 TEST_F(PackUpdate, OfAPackWithoutAListMovesThePiecesOut) {
