@@ -1,12 +1,11 @@
 #include "cli/options.h"
 
 #include "app/version.h"
+#include "cli/command_grammar.h"
+#include "cli/option_kinds.h"
 #include "cli/output.h"
 
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
-
+#include <algorithm>
 #include <charconv>
 
 namespace wordhawk {
@@ -18,23 +17,27 @@ struct RawOverrides {
     std::vector<std::string> flags;
 };
 
-/// Limits of a value, without the library's note of them in the help text.
-CLI::Validator Between(int lowest, int highest) {
-    return CLI::Range(lowest, highest).description("");
-}
+/// Which commands a description of the command line is to have. All of them take as long to
+/// describe as a short text to check.
+class WantedCommands {
+  public:
+    /// All.
+    WantedCommands() = default;
+    /// Those that the arguments can mean: no other word is one, and only the help names others.
+    explicit WantedCommands(const std::vector<std::string>& arguments) : arguments_(&arguments) {
+        const auto may_ask_for_help = [](const std::string& argument) {
+            return argument.starts_with('-') && argument.find('h') != std::string::npos;
+        };
+        if (std::any_of(arguments.begin(), arguments.end(), may_ask_for_help)) arguments_ = nullptr;
+    }
+    bool Has(std::string_view command) const {
+        return arguments_ == nullptr ||
+               std::find(arguments_->begin(), arguments_->end(), command) != arguments_->end();
+    }
 
-CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& help) {
-    return app.add_subcommand(name, help)->group("Commands");
-}
-
-/// An option that takes one value each time it is given; a word behind the value is a command.
-template <class T>
-CLI::Option* OneValueEachTime(CLI::App& app, const std::string& name, std::vector<T>& values,
-                              const std::string& help) {
-    return app.add_option(name, values, help)
-        ->allow_extra_args(false)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-}
+  private:
+    const std::vector<std::string>* arguments_ = nullptr;
+};
 
 void AddGlobalOptions(CLI::App& app, GlobalOptions& global, RawOverrides& raw) {
     app.add_option("--data", global.data_folder, "Data folder (default: the user's own)")
@@ -69,194 +72,6 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& global, RawOverrides& raw) {
                          "Print the version and exit");
 }
 
-void AddCheck(CLI::App& app, CheckOptions& check) {
-    CLI::App* const command = AddCommand(app, "check", "Print the unknown words of texts");
-    command
-        ->add_option("FILE", check.files,
-                     "Text or rich-text (.rtf) files; standard input without FILE or for -")
-        ->type_name("");
-    const auto format = [&check](CheckFormat chosen) {
-        return [&check, chosen] { check.format = chosen; };
-    };
-    CLI::Option* const list = command->add_flag_callback(
-        "--list", format(CheckFormat::List), "Each unknown word once, in the order found");
-    CLI::Option* const json = command->add_flag_callback("--json", format(CheckFormat::Json),
-                                                         "One JSON object for each occurrence");
-    CLI::Option* const count = command->add_flag_callback(
-        "--count", format(CheckFormat::Count),
-        "Each unknown word, a tab, and how often it occurs, sorted by bytes");
-    command
-        ->add_flag_callback("-l,--words", format(CheckFormat::Words),
-                            "Each occurrence as it is written, and exit with 0, as ispell -l")
-        ->excludes(list)
-        ->excludes(json)
-        ->excludes(count);
-    list->excludes(json)->excludes(count);
-    json->excludes(count);
-    command
-        ->add_option("--max-suggestions", check.max_suggestions,
-                     "Suggestions shown for a word, 0 for all (default 5)")
-        ->type_name("N")
-        ->check(Between(0, 1000000));
-    command->add_flag_callback(
-        "--no-suggestions", [&check] { check.suggestions = false; }, "Do not look for suggestions");
-    command->add_flag("--exit-zero", check.exit_zero,
-                      "Exit with 0 even when there are unknown words");
-    command
-        ->add_option("-j,--jobs", check.jobs,
-                     "Texts, and blocks of a large text, checked at the same time (default 1)")
-        ->type_name("N")
-        ->check(Between(1, 256));
-    OneValueEachTime(*command, "--ignore-words", check.ignored_lists,
-                     "Do not report the words of this list, one a line")
-        ->type_name("FILE");
-    command->add_flag_callback(
-        "--no-project-words", [&check] { check.project_words = false; },
-        "Leave the lists called .wordhawk-words alone: those in a text's folder (the current one "
-        "for standard input) and above it, up to the root of its git repository");
-    command->footer(
-        "Prints FILE:LINE:COLUMN: WORD -> SUGGESTION (SCORE%), ... for each unknown word.\n"
-        "Exit code: 0 no unknown word, 1 some, 2 error.\n\nExamples:\n"
-        "  wordhawk-cli check letter.txt report.rtf\n"
-        "  wordhawk-cli --set Language=1031 check --list brief.txt\n"
-        "  git log -1 --format=%B | wordhawk-cli check -\n"
-        "  wordhawk-cli check -j 4 --json docs/*.txt > unknown.jsonl\n"
-        "  wordhawk-cli check -j 4 --count corpus.txt > unknown.tsv");
-}
-
-void AddWordCommands(CLI::App& app, Options& options) {
-    CLI::App* const suggest = AddCommand(app, "suggest", "Print suggestions for words");
-    suggest->add_option("WORD", options.words.words, "Words")->type_name("");
-    suggest->add_flag("--stdin", options.words.from_input,
-                      "Read words from standard input, one a line");
-    suggest->footer(
-        "Prints WORD, SUGGESTION, SCORE and * (on the best), separated by tabs.\n\nExamples:\n"
-        "  wordhawk-cli suggest recieve beleive\n"
-        "  wordhawk-cli --set Diversity=3 --set ScoreValue=70 suggest adress\n"
-        "  wordhawk-cli check --list draft.txt | wordhawk-cli suggest --stdin");
-
-    CLI::App* const explain =
-        AddCommand(app, "explain", "Tell how a candidate measures up to a word, and what drops it");
-    explain->add_option("WORD", options.explain.word, "Word as typed")->type_name("")->required();
-    explain->add_option("CANDIDATE", options.explain.candidate, "Dictionary word")
-        ->type_name("")
-        ->required();
-    explain->add_flag("--json", options.explain.json, "Print one JSON object");
-    explain->footer(
-        "Examples:\n  wordhawk-cli explain recieve receive\n"
-        "  wordhawk-cli --set SortBy=2 explain --json teh the");
-
-    CLI::App* const key = AddCommand(app, "key", "Print dictionary file and phonetic key of words");
-    key->add_option("WORD", options.words.words, "Words")->type_name("");
-    key->add_flag("--stdin", options.words.from_input,
-                  "Read words from standard input, one a line");
-    key->footer(
-        "Prints WORD, FILE and KEY, separated by tabs.\n\nExamples:\n"
-        "  wordhawk-cli key hello\n  wordhawk-cli key --stdin < words.txt");
-}
-
-void AddDictionaryCommands(CLI::App& app, Options& options) {
-    CLI::App* const add = AddCommand(app, "add", "Add words to a dictionary");
-    add->add_option("WORD", options.add.words, "Words")->type_name("")->required();
-    CLI::Option* const to_main =
-        add->add_flag("--main", options.add.to_main, "Into the main dictionary of the language");
-    add->add_option("--custom", options.add.custom,
-                    "Into this custom dictionary (made when missing)")
-        ->type_name("NAME")
-        ->excludes(to_main);
-    add->add_flag("-q,--quiet", options.add.quiet, "Say nothing about what was done");
-    add->footer(
-        "Without --main or --custom the words go into the active custom dictionary.\n\nExamples:\n"
-        "  wordhawk-cli add Wordhawk spellchecker\n  wordhawk-cli add --custom names.dic "
-        "Ostrowska");
-
-    CLI::App* const remove = AddCommand(app, "remove", "Remove words from the dictionaries");
-    remove->add_option("WORD", options.words.words, "Words")->type_name("")->required();
-    remove->footer(
-        "Each word is removed from the first dictionary that holds it, the main one before custom "
-        "ones.\n"
-        "Prints WORD and the changed file; exits with 1 when a word was in none.\n\nExamples:\n"
-        "  wordhawk-cli remove spellchecker");
-
-    CLI::App* const forbid =
-        AddCommand(app, "forbid", "Flag a word always, and suggest what is preferred to it");
-    forbid->add_option("WORD", options.forbid.words, "The word, then those preferred to it")
-        ->type_name("");
-    forbid->add_flag("--remove", options.forbid.remove, "Forbid the words no more");
-    forbid->footer(
-        "Without a word it prints the forbidden ones, a tab, and what is preferred.\n\nExamples:\n"
-        "  wordhawk-cli forbid teh the\n  wordhawk-cli forbid alot \"a lot\" much\n"
-        "  wordhawk-cli forbid --remove teh");
-
-    CLI::App* const import =
-        AddCommand(app, "import", "Make a custom dictionary of a file's new words");
-    import->add_flag("-q,--quiet", options.import.quiet, "Say nothing about what was done");
-    import
-        ->add_option("FILE", options.import.file,
-                     "Word list, one word a line, UTF-8, UTF-16 or ANSI")
-        ->type_name("")
-        ->required();
-    import->footer(
-        "Prints the number of words added. Flags 249 and 250 say whether words of the main and of "
-        "the\n"
-        "custom dictionaries are left out.\n\nExamples:\n"
-        "  wordhawk-cli import medical.dic\n  wordhawk-cli --flag 250=0 import names.dic");
-
-    CLI::App* const list = AddCommand(app, "dictionaries", "List main and custom dictionaries");
-    list->add_option("--activate", options.activate,
-                     "First make this custom dictionary one that is searched")
-        ->type_name("NAME");
-    list->footer(
-        "Prints main or custom, NAME, number of words and * (in use), separated by "
-        "tabs.\n\nExamples:\n"
-        "  wordhawk-cli dictionaries\n  wordhawk-cli dictionaries --activate MEDICAL.DIC");
-
-    CLI::App* const build =
-        AddCommand(app, "build-dictionary", "Write main dictionary files from word lists");
-    build->add_option("WORDLIST", options.build.word_lists, "Lists, one word a line, UTF-8 or ANSI")
-        ->type_name("");
-    OneValueEachTime(*build, "--hunspell", options.build.hunspell_dictionaries,
-                     "Spell out this hunspell dictionary, with the .aff file beside it")
-        ->type_name("FILE.dic");
-    build->add_option("--output", options.build.output, "Folder that gets the files")
-        ->required()
-        ->type_name("DIR");
-    build
-        ->add_option("--code-page", options.build.code_page,
-                     "Windows code page of the language (default 1252)")
-        ->type_name("N")
-        ->check(CLI::IsMember({874, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258})
-                    .description(""));
-    build->add_flag("--pieces", options.build.pieces,
-                    "Also take the parts that delimiters cut words into; those that letters and "
-                    "apostrophes cut pass only where these delimit");
-    OneValueEachTime(*build, "--pieces-from", options.build.piece_lists,
-                     "Let the words of this list pass only where letters delimit")
-        ->type_name("FILE");
-    build
-        ->add_option(
-            "--in-use", options.build.in_use,
-            "Words by how often they are used; short names and words that would hide slips "
-            "must be among them")
-        ->type_name("FILE");
-    build
-        ->add_option("--parts-in-use", options.build.parts_in_use,
-                     "Words by how often they are used; parts of compounds of three letters must "
-                     "be common ones")
-        ->type_name("FILE");
-    build->add_flag("--pack", options.build.shipped,
-                    "Note the files, so that a newer pack can take the place of this one");
-    OneValueEachTime(*build, "--exclude", options.build.excluded,
-                     "Leave out the words of this list")
-        ->type_name("FILE");
-    build->footer(
-        "Examples:\n"
-        "  wordhawk-cli build-dictionary --output Dictionarys/1033 "
-        "/usr/share/dict/american-english\n"
-        "  wordhawk-cli build-dictionary --output 1045 --code-page 1250 polish.txt\n"
-        "  wordhawk-cli build-dictionary --output 1035 --pieces --hunspell fi_FI.dic");
-}
-
 std::optional<int> WholeNumber(std::string_view text) {
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -284,23 +99,9 @@ std::string CutOverrides(const RawOverrides& raw, GlobalOptions& global) {
     return {};
 }
 
-std::optional<Command> CommandNamed(std::string_view name) {
-    constexpr std::pair<std::string_view, Command> kCommands[] = {
-        {"check", Command::Check},
-        {"suggest", Command::Suggest},
-        {"explain", Command::Explain},
-        {"key", Command::Key},
-        {"add", Command::Add},
-        {"remove", Command::Remove},
-        {"forbid", Command::Forbid},
-        {"import", Command::Import},
-        {"dictionaries", Command::Dictionaries},
-        {"build-dictionary", Command::BuildDictionary},
-        {"pipe", Command::Pipe}};
-    for (const auto& [known, command] : kCommands) {
-        if (known == name) return command;
-    }
-    return std::nullopt;
+Command CommandNamed(std::string_view name) {
+    const auto has_name = [&](const CommandRow& row) { return row.name == name; };
+    return std::find_if(CommandRows().begin(), CommandRows().end(), has_name)->command;
 }
 
 ParsedCommandLine Wrong(const std::string& message) {
@@ -312,21 +113,16 @@ ParsedCommandLine Wrong(const std::string& message) {
 /// The library's description of the command line, and the values that it fills.
 class CommandLineParser::Grammar {
   public:
-    Grammar() {
+    explicit Grammar(const WantedCommands& wanted) {
         app_.allow_windows_style_options(false);  // "/x" is a path on every system
         app_.require_subcommand(1);
         app_.fallthrough();
         app_.get_formatter()->column_width(28);
         app_.get_formatter()->label("SUBCOMMAND", "COMMAND");
         AddGlobalOptions(app_, options_.global, raw_);
-        AddCheck(app_, options_.check);
-        AddWordCommands(app_, options_);
-        AddDictionaryCommands(app_, options_);
-        CLI::App* const pipe = AddCommand(
-            app_, "pipe", "Speak the line protocol of ispell -a, for editors (also: -a)");
-        pipe->footer(
-            "Examples:\n  echo '^Ths is a tset' | wordhawk-cli pipe\n"
-            "  emacs --eval '(setq ispell-program-name \"wordhawk-cli\")'");
+        for (const CommandRow& row : CommandRows()) {
+            if (wanted.Has(row.name)) row.add(app_, options_);
+        }
         app_.footer(
             "Each command has its own --help. Exit code: 0 fine, 1 unknown words found, 2 "
             "error.\n\nExamples:\n"
@@ -353,7 +149,7 @@ class CommandLineParser::Grammar {
         }
         if (std::string wrong = CutOverrides(raw_, options_.global); !wrong.empty())
             return Wrong(wrong);
-        options_.command = *CommandNamed(app_.get_subcommands().front()->get_name());
+        options_.command = CommandNamed(app_.get_subcommands().front()->get_name());
         const bool needs_words =
             options_.command == Command::Suggest || options_.command == Command::Key;
         if (needs_words && options_.words.words.empty() && !options_.words.from_input)
@@ -369,7 +165,7 @@ class CommandLineParser::Grammar {
         "wordhawk-cli"};
 };
 
-CommandLineParser::CommandLineParser() : grammar_(std::make_unique<Grammar>()) {}
+CommandLineParser::CommandLineParser() : grammar_(std::make_unique<Grammar>(WantedCommands())) {}
 
 CommandLineParser::~CommandLineParser() = default;
 
@@ -378,7 +174,7 @@ ParsedCommandLine CommandLineParser::Parse(const std::vector<std::string>& argum
 }
 
 ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
-    return CommandLineParser().Parse(arguments);
+    return CommandLineParser::Grammar(WantedCommands(arguments)).Parse(arguments);
 }
 
 }  // namespace wordhawk

@@ -133,6 +133,7 @@ class CommandLineParser {
     ParsedCommandLine Parse(const std::vector<std::string>& arguments);
 
   private:
+    friend ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments);
     class Grammar;
     std::unique_ptr<Grammar> grammar_;
 };
