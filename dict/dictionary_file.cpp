@@ -1,6 +1,7 @@
 #include "dict/dictionary_file.h"
 
 #include "dict/lines.h"
+#include "dict/sorted_lines.h"
 
 #include <algorithm>
 #include <array>
@@ -26,8 +27,31 @@ constexpr std::size_t kMostIndexedBytes = std::numeric_limits<std::uint32_t>::ma
 /// A word of eight or nine letters, comma, key and line end; only room is reserved by it.
 constexpr std::size_t kUsualEntryBytes = 16;
 
-/// Making the index takes about as long as so many look-ups without it.
+/// Making the index takes about as long as so many look-ups without it that find nothing.
 constexpr int kAskedBeforeIndex = 5;
+
+constexpr std::uint64_t kEachByte = 0x0101010101010101;
+
+/// The highest bit of the lowest byte that is `byte`, and bits above it; 0 where none is.
+constexpr std::uint64_t Matches(std::uint64_t eight, unsigned char byte) {
+    const std::uint64_t differences = eight ^ byte * kEachByte;
+    return (differences - kEachByte) & ~differences & 0x80 * kEachByte;
+}
+
+/// The first byte from `at` on that ends an entry's word, or `end`.
+const char* EndOfWord(const char* at, const char* end) {
+    if constexpr (std::endian::native == std::endian::little) {
+        for (; end - at >= 8; at += 8) {
+            std::uint64_t eight;
+            std::memcpy(&eight, at, 8);
+            const std::uint64_t stops =
+                Matches(eight, ',') | Matches(eight, '\r') | Matches(eight, '\n');
+            if (stops != 0) return at + std::countr_zero(stops) / 8;
+        }
+    }
+    while (at != end && !kStopsEntry[static_cast<unsigned char>(*at)]) ++at;
+    return at;
+}
 
 /// The byte behind the first LF from `at` on, or `end`.
 const char* BehindNextLineFeed(const char* at, const char* end) {
@@ -36,9 +60,8 @@ const char* BehindNextLineFeed(const char* at, const char* end) {
         if (end - at >= 8) {
             std::uint64_t eight;
             std::memcpy(&eight, at, 8);
-            eight ^= 0x0A0A0A0A0A0A0A0A;
-            const std::uint64_t zero = (eight - 0x0101010101010101) & ~eight & 0x8080808080808080;
-            if (zero != 0) return at + std::countr_zero(zero) / 8 + 1;
+            const std::uint64_t feeds = Matches(eight, '\n');
+            if (feeds != 0) return at + std::countr_zero(feeds) / 8 + 1;
         }
     }
     const auto* feed =
@@ -77,9 +100,15 @@ bool DictionaryFile::Contains(std::string_view word, EntryForms forms) const {
 bool DictionaryFile::ContainsHashed(std::string_view word, std::uint32_t hash,
                                     EntryForms forms) const {
     if (!indexed_) {
+        // What is found so is there; most words that are asked for are.
+        if (FoundByHalves(bytes_, word)) return true;
+        if (!word.empty() && word == missed_ && forms == missed_form_) return false;
         if (asked_ < kAskedBeforeIndex) {
             ++asked_;
-            return FoundInBytes(bytes_, word, forms);
+            if (FoundInBytes(bytes_, word, forms)) return true;
+            missed_ = word;
+            missed_form_ = forms;
+            return false;
         }
         BuildIndex();
     }
@@ -109,8 +138,7 @@ void DictionaryFile::BuildIndex() const {
     const char* const begin = bytes_.data();
     const char* const end = begin + bytes_.size();
     for (const char* start = begin; start != end;) {
-        const char* at = start;
-        while (at != end && !kStopsEntry[static_cast<unsigned char>(*at)]) ++at;
+        const char* const at = EndOfWord(start, end);
         if (at == end) break;
         if (*at == ',' || (*at == '\r' && start != begin)) {
             const auto place = static_cast<std::uint32_t>(1 + 2 * (start - begin) + (*at == '\r'));

@@ -118,6 +118,10 @@ class DictionaryFile {
     std::string bytes_;
     mutable std::uint8_t asked_ = 0;
     mutable bool indexed_ = false;
+    /// The word that was last looked for through all bytes, and not found: it is often asked for
+    /// twice.
+    mutable std::string missed_;
+    mutable EntryForms missed_form_ = EntryForms::KeyedOnly;
     /// A power of two of slots, at most half of them taken.
     mutable std::vector<Slot> slots_;
     mutable const AnsiCodePage* candidates_page_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include "dict/dictionary_names.h"
 #include "dict/phonetic_key.h"
+#include "dict/sorted_lines.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -75,12 +76,27 @@ void DictionaryStore::SyncWithState() {
 const DictionaryFile& DictionaryStore::OpenMainFileOfBytes(unsigned char first,
                                                            unsigned char second) {
     SyncWithState();
-    const std::wstring beginning = {Page().ToUnicode(first), Page().ToUnicode(second)};
-    const DictionaryFile& file = LoadMain(MainPathFor(beginning)).file;
+    const DictionaryFile& file = LoadMain(MainPathOfBytes(first, second)).file;
     std::unique_ptr<Row>& row = by_first_bytes_[first];
     if (!row) row = std::make_unique<Row>();
     (*row)[second] = &file;
     return file;
+}
+
+Path DictionaryStore::MainPathOfBytes(unsigned char first, unsigned char second) const {
+    return MainPathFor(std::wstring{Page().ToUnicode(first), Page().ToUnicode(second)});
+}
+
+bool DictionaryStore::StandsInUnreadFile(std::string_view lower_bytes) {
+    SyncWithState();
+    const auto first = static_cast<unsigned char>(lower_bytes[0]);
+    const auto second = static_cast<unsigned char>(lower_bytes[1]);
+    const Row* const row = by_first_bytes_[first].get();
+    if (row != nullptr && (*row)[second] != nullptr) return false;
+    const Path path = MainPathOfBytes(first, second);
+    if (main_.contains(path.native())) return false;
+    --looks_left_;
+    return FoundByHalvesIn(path, lower_bytes);
 }
 
 const DictionaryFile* DictionaryStore::MainFileFor(std::wstring_view lower_word) {
@@ -95,9 +111,10 @@ Path DictionaryStore::MainPathFor(std::wstring_view lower_word) const {
 DictionaryStore::Loaded DictionaryStore::Read(Path path) {
     Result<std::string> bytes = ReadWholeFile(path);
     std::erase_if(unreadable_, [&](const Error& known) { return known.where == path; });
-    if (!bytes && !IsMissing(path)) unreadable_.push_back(bytes.error());
+    const bool is_missing = !bytes && IsMissing(path);
+    if (!bytes && !is_missing) unreadable_.push_back(bytes.error());
     // What cannot be read counts as empty, but it is there.
-    const bool exists = bytes.has_value() || IsFile(path);
+    const bool exists = bytes.has_value() || (!is_missing && IsFile(path));
     return {DictionaryFile(bytes ? std::move(*bytes) : std::string()), exists, std::move(path)};
 }
 

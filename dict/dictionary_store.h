@@ -50,6 +50,18 @@ class DictionaryStore {
         return file != nullptr ? *file : OpenMainFileOfBytes(first, second);
     }
 
+    /// Whether the main dictionary holds the lower-cased bytes of a word: at least two, no comma,
+    /// CR or LF among them. As MainFileOfBytes, but the first words of all are looked for in their
+    /// files, which a short text is not worth reading.
+    bool IsInMain(std::string_view lower_bytes) {
+        const auto first = static_cast<unsigned char>(lower_bytes[0]);
+        const auto second = static_cast<unsigned char>(lower_bytes[1]);
+        if (looks_left_ > 0 && StandsInUnreadFile(lower_bytes)) return true;
+        return MainFileOfBytes(first, second)
+            .ContainsHashed(lower_bytes, DictionaryFile::HashBytes(lower_bytes),
+                            EntryForms::KeyedOnly);
+    }
+
     /// The main file that may hold `lower_word`; null when it does not exist on disk.
     const DictionaryFile* MainFileFor(std::wstring_view lower_word);
     Path MainPathFor(std::wstring_view lower_word) const;
@@ -98,6 +110,8 @@ class DictionaryStore {
     using Row = std::array<const DictionaryFile*, 256>;
 
     const DictionaryFile& OpenMainFileOfBytes(unsigned char first, unsigned char second);
+    Path MainPathOfBytes(unsigned char first, unsigned char second) const;
+    bool StandsInUnreadFile(std::string_view lower_bytes);
     Loaded Read(Path path);
     Loaded& LoadMain(const Path& path);
     void SyncCustomSet();
@@ -112,6 +126,8 @@ class DictionaryStore {
     std::array<std::unique_ptr<Row>, 256> by_first_bytes_;
     Path::string_type table_folder_;
     const AnsiCodePage* table_page_ = nullptr;
+    /// How many words may still be looked for in files that are not read.
+    int looks_left_ = 64;
     /// In the order of the list, for the folder below.
     std::vector<Custom> custom_;
     Path::string_type custom_data_folder_;

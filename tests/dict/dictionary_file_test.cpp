@@ -1,9 +1,14 @@
 #include "dict/dictionary_file.h"
 
 #include "dict/phonetic_key.h"
+#include "dict/sorted_lines.h"
 #include "tests/support/random_text.h"
+#include "tests/support/temp_dir.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
 
 namespace wordhawk {
 namespace {
@@ -77,6 +82,45 @@ TEST(DictionaryFile, IndexAnswersAsTheByteSearch) {
         }
     }
     EXPECT_GT(hits, 10'000);
+}
+
+TEST(FoundByHalves, FindsAllOfASortedFileAndNothingThatIsNotThere) {
+    Random random(31);
+    const test::TempDir folder;
+    const auto random_word = [&] {
+        const std::wstring word = random.Word(L"abc'\xE9", 1, random.OneIn(50) ? 900 : 8);
+        return AnsiCodePage::Get(1252).Encode(word);
+    };
+    int hits = 0;
+    for (int round = 0; round < 40; ++round) {
+        std::set<std::string> words;
+        for (std::size_t i = random.Below(3000); i > 0; --i) words.insert(random_word());
+        std::vector<std::string> lines;
+        for (const std::string& word : words) lines.push_back(word + ",65000\r\n");
+        std::sort(lines.begin(), lines.end());
+        const bool is_sorted = round % 2 == 0;
+        for (std::size_t i = 0; !is_sorted && i < lines.size() / 10; ++i)
+            lines[random.Below(lines.size())] = random.Pick(lines).substr(random.Below(3));
+        std::string bytes;
+        for (const std::string& line : lines) bytes += line;
+        test::WriteBytes(folder / L"file", bytes);
+        for (int probe = 0; probe < 300; ++probe) {
+            const std::string word =
+                random.OneIn(2) || lines.empty()
+                    ? random_word()
+                    : *std::next(words.begin(),
+                                 static_cast<std::ptrdiff_t>(random.Below(words.size())));
+            const bool is_there = FoundByBytes(bytes, word, EntryForms::KeyedOnly);
+            hits += is_there;
+            for (const bool found :
+                 {FoundByHalves(bytes, word), FoundByHalvesIn(folder / L"file", word)}) {
+                ASSERT_TRUE(is_sorted ? found == is_there : found <= is_there) << word;
+            }
+        }
+    }
+    EXPECT_GT(hits, 3000);
+    EXPECT_FALSE(FoundByHalvesIn(folder / L"missing", "a"));
+    EXPECT_FALSE(FoundByHalvesIn(folder.Folder(), "a"));
 }
 
 TEST(DictionaryFile, CountsLinesThatHoldSomething) {

@@ -126,6 +126,26 @@ TEST(DictionaryStore, FilesOfBytesAreThoseOfWords) {
     }
 }
 
+TEST(DictionaryStore, LooksIntoFilesThatItHasNotReadWithTheSameAnswers) {
+    test::Random random(7);
+    for (int round = 0; round < 30; ++round) {
+        Dictionaries data;
+        data.state.CodePage = &AnsiCodePage::Get(1252);
+        std::vector<std::wstring> words;
+        for (int i = 0; i < 60; ++i) words.push_back(random.Word(L"ab\xE9", 2, 4));
+        data.WriteMain(words);
+        if (round % 2 == 1)
+            WriteBytes(data.store.MainPathFor(L"ab"), "abz,1\r\nabb,2\r\naba,3\r\n");
+        DictionaryStore other(data.state, data.settings);
+        for (int probe = 0; probe < 150; ++probe) {
+            const std::wstring word = random.Word(L"ab\xE9z", 2, 4);
+            ASSERT_EQ(data.store.IsInMain(data.state.CodePage->Encode(word)),
+                      other.IsWordInDictionaries(word, Scope::MainOnly))
+                << ToUtf8(word);
+        }
+    }
+}
+
 TEST(DictionaryStore, FollowsTheLanguageFolder) {
     Dictionaries data;
     data.WriteMain({L"hello"});
