@@ -23,6 +23,9 @@ Result<ByteSource> ByteSource::OpenFile(const Path& path) {
 ByteSource ByteSource::StandardInput() { return {}; }
 
 Result<void> ByteSource::Read(std::size_t size, std::string& out) {
+    // One byte more than should be left, to meet the end: of a short text not all the room is made.
+    if (size_ > bytes_read_ && size_ - bytes_read_ < size)
+        size = static_cast<std::size_t>(size_ - bytes_read_) + 1;
     const std::size_t start = out.size();
     out.resize(start + size);
     std::size_t got = 0;
@@ -42,12 +45,19 @@ Result<void> ByteSource::Read(std::size_t size, std::string& out) {
         }
     }
     out.resize(start + got);
+    bytes_read_ += got;
     if (failed) return tl::unexpected(Error{L"reading failed", path_});
     return {};
 }
 
-bool ByteSource::Rewind() {
-    if (!file_ || std::fseek(file_.get(), 0, SEEK_SET) != 0) return false;
+bool ByteSource::Mark() {
+    bytes_before_mark_ = bytes_read_;
+    return file_ && std::fgetpos(file_.get(), &mark_) == 0;
+}
+
+bool ByteSource::GoBack() {
+    if (!file_ || std::fsetpos(file_.get(), &mark_) != 0) return false;
+    bytes_read_ = bytes_before_mark_;
     at_end_ = false;
     return true;
 }

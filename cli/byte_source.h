@@ -20,8 +20,10 @@ class ByteSource {
     Result<void> Read(std::size_t size, std::string& out);
     bool AtEnd() const { return at_end_; }
 
-    /// Back to the first byte. False when the bytes come only once (a pipe).
-    bool Rewind();
+    /// Remembers the place that reading has come to. False when the bytes come only once (a pipe).
+    bool Mark();
+    /// Back to that place.
+    bool GoBack();
 
     /// Bytes in all when that is known beforehand, else 0.
     std::uint64_t Size() const { return size_; }
@@ -34,6 +36,9 @@ class ByteSource {
     Path path_;
     std::unique_ptr<std::FILE, Closer> file_;  // none: standard input
     std::uint64_t size_ = 0;
+    std::uint64_t bytes_read_ = 0;
+    std::fpos_t mark_{};
+    std::uint64_t bytes_before_mark_ = 0;
     bool at_end_ = false;
 };
 

@@ -44,8 +44,7 @@ FileChecker::FileChecker(const Program& program, const CheckOptions& options,
       suggester_(store_, settings_),
       report_(suggester_, options, colour),
       ignored_(ignored),
-      projects_(*state_.CodePage),
-      block_checker_(store_, WithoutAddresses(rules_), Remember::Lately) {}
+      projects_(*state_.CodePage) {}
 
 SideBySide::Result FileChecker::Check(TextToCheck& text, Output& out, ProgressLine* progress) {
     SideBySide::Result result;
@@ -70,8 +69,12 @@ Result<void> FileChecker::CheckBlocks(TextToCheck& text, Output& out, ProgressLi
         auto block = text.blocks->Next();
         if (!block) return tl::unexpected(block.error());
         if (block->Empty()) return {};
-        const std::wstring decoded = block->Decode(*state_.CodePage);
-        result.found |= Report(checker, decoded, decoded, position, out);
+        if (!places_ && block->IsAscii()) {
+            result.found |= ReportAscii(checker, block->bytes, out);
+        } else {
+            const std::wstring decoded = block->Decode(*state_.CodePage);
+            result.found |= Report(checker, decoded, decoded, position, out);
+        }
         if (progress != nullptr) progress->Show(shown, text.blocks->PercentRead());
     }
 }
@@ -94,7 +97,8 @@ SideBySide::Result FileChecker::CheckBlock(const std::string& name, const Path& 
 
     SideBySide::Result result;
     Begin(name, folder, result);
-    result.found = Report(block_checker_, runs.empty() ? text : blanked, text, position, out);
+    if (!block_checker_) block_checker_.emplace(store_, WithoutAddresses(rules_), Remember::Lately);
+    result.found = Report(*block_checker_, runs.empty() ? text : blanked, text, position, out);
     report_.EndPart(out);
     return WithUnreadable(result);
 }
@@ -139,6 +143,17 @@ bool FileChecker::Report(TextChecker& checker, std::wstring_view fed, std::wstri
         report_.Add(out, word, position.Line(), position.Column());
     });
     if (places_) position.Advance(text.substr(walked));
+    return found;
+}
+
+/// The same for a text of which nobody asks where the words stand.
+bool FileChecker::ReportAscii(TextChecker& checker, std::string_view text, Output& out) {
+    bool found = false;
+    checker.FeedAscii(text, [&](const UnknownWord& word) {
+        if (IsIgnored(word.listed)) return;
+        found = true;
+        report_.Add(out, word, 0, 0);
+    });
     return found;
 }
 

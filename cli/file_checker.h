@@ -13,6 +13,7 @@
 #include "engine/suggest/suggester.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace wordhawk {
@@ -49,6 +50,7 @@ class FileChecker {
     bool IsIgnored(std::wstring_view word);
     bool Report(TextChecker& checker, std::wstring_view fed, std::wstring_view text,
                 TextPosition& position, Output& out);
+    bool ReportAscii(TextChecker& checker, std::string_view text, Output& out);
     SideBySide::Result& WithUnreadable(SideBySide::Result& result) const;
 
     ProgramState state_;
@@ -64,8 +66,8 @@ class FileChecker {
     ProjectWords projects_;
     /// Of the text in hand.
     std::shared_ptr<const WordSet> project_words_;
-    /// For blocks whose addresses are blanked already.
-    TextChecker block_checker_;
+    /// For blocks whose addresses are blanked already; made for the first one.
+    std::optional<TextChecker> block_checker_;
 };
 
 }  // namespace wordhawk

@@ -10,11 +10,6 @@ constexpr std::size_t kReadBytes = std::size_t{128} << 10;
 constexpr std::size_t kLookAheadBytes = std::size_t{16} << 20;
 constexpr std::size_t kLongestRun = std::size_t{4} << 20;
 
-bool IsAscii(std::string_view bytes) {
-    return std::all_of(bytes.begin(), bytes.end(),
-                       [](char c) { return static_cast<signed char>(c) >= 0; });
-}
-
 }  // namespace
 
 std::size_t CompleteUtf8Length(std::string_view bytes) {
@@ -52,37 +47,39 @@ Result<void> TextBlocks::Start() {
     } else if (source_.AtEnd()) {
         encoding_ = DetectEncoding(bytes_);
         decided_ = true;
-    } else if (source_.Rewind()) {
-        return DecideFromFile();
     }
-    return {};
-}
-
-/// Looks through the whole file once and goes back to its start.
-Result<void> TextBlocks::DecideFromFile() {
-    decided_ = true;
-    encoding_ = TextEncoding::Utf8;
-    bytes_.clear();
-    while (!source_.AtEnd()) {
-        if (auto read = ReadMore(kReadBytes); !read) return read;
-        const std::size_t complete = source_.AtEnd() ? bytes_.size() : CompleteUtf8Length(bytes_);
-        if (!IsUtf8(std::string_view(bytes_).substr(0, complete))) {
-            encoding_ = TextEncoding::Ansi;
-            break;
-        }
-        bytes_at_ = complete;
-    }
-    bytes_.clear();
-    bytes_at_ = 0;
-    bytes_read_ = 0;
-    if (!source_.Rewind()) return tl::unexpected(Error{L"reading failed", {}});
     return {};
 }
 
 /// Called with fresh bytes in hand: ASCII needs no decision, anything else is looked ahead from.
-Result<void> TextBlocks::DecideFromPipe() {
+Result<void> TextBlocks::Decide() {
     if (IsAscii(std::string_view(bytes_).substr(bytes_at_))) return {};
     decided_ = true;
+    return source_.Mark() ? DecideFromFile() : DecideFromPipe();
+}
+
+/// Looks through the rest of the file once and goes back to where it was.
+Result<void> TextBlocks::DecideFromFile() {
+    encoding_ = TextEncoding::Utf8;
+    const std::string unread = bytes_.substr(bytes_at_);
+    const std::uint64_t bytes_read = bytes_read_;
+    while (true) {
+        const std::string_view ahead = std::string_view(bytes_).substr(bytes_at_);
+        const std::size_t complete = source_.AtEnd() ? ahead.size() : CompleteUtf8Length(ahead);
+        if (!IsUtf8(ahead.substr(0, complete))) encoding_ = TextEncoding::Ansi;
+        if (source_.AtEnd() || encoding_ == TextEncoding::Ansi) break;
+        bytes_at_ += complete;
+        if (auto read = ReadMore(kReadBytes); !read) return read;
+    }
+    bytes_ = unread;
+    bytes_at_ = 0;
+    if (bytes_read_ == bytes_read) return {};
+    bytes_read_ = bytes_read;
+    if (!source_.GoBack()) return tl::unexpected(Error{L"reading failed", {}});
+    return {};
+}
+
+Result<void> TextBlocks::DecideFromPipe() {
     if (!source_.AtEnd()) {
         if (auto read = ReadMore(kLookAheadBytes); !read) return read;
     }
@@ -153,8 +150,7 @@ Result<RawBlock> TextBlocks::NextOfPlainText() {
             if (auto read = ReadMore(kReadBytes); !read) return tl::unexpected(read.error());
         }
         if (!decided_) {
-            if (auto decision = DecideFromPipe(); !decision)
-                return tl::unexpected(decision.error());
+            if (auto decision = Decide(); !decision) return tl::unexpected(decision.error());
         }
         std::size_t end = std::min(bytes_.size(), bytes_at_ + most);
         if (end < bytes_.size() || !source_.AtEnd()) {
@@ -178,6 +174,12 @@ Result<RawBlock> TextBlocks::Next() {
         if (auto start = Start(); !start) return tl::unexpected(start.error());
     }
     return rich_text_ ? NextOfRichText() : NextOfPlainText();
+}
+
+bool RawBlock::IsAscii() const {
+    const bool wide =
+        encoding == TextEncoding::Utf16LittleEndian || encoding == TextEncoding::Utf16BigEndian;
+    return text.empty() && !wide && wordhawk::IsAscii(bytes);
 }
 
 std::wstring RawBlock::Decode(const AnsiCodePage& page) {

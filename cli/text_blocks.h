@@ -21,6 +21,8 @@ struct RawBlock {
     TextEncoding encoding = TextEncoding::Utf8;
 
     bool Empty() const { return bytes.empty() && text.empty(); }
+    /// Whether the bytes are the text as it is.
+    bool IsAscii() const;
     /// The text; the block is used up.
     std::wstring Decode(const AnsiCodePage& page);
 };
@@ -29,8 +31,8 @@ struct RawBlock {
 /// address is cut; only a run without either of more than four million bytes is. Memory does
 /// not grow with the document.
 ///
-/// The encoding is found as DetectEncoding finds it. A pipe without a mark is looked ahead into
-/// from its first character beyond ASCII for up to 16 MB; that part decides.
+/// The encoding is found as DetectEncoding finds it. A text without a mark is looked ahead into
+/// from its first character beyond ASCII, a pipe for up to 16 MB; that part decides.
 class TextBlocks {
   public:
     TextBlocks(ByteSource source, DocumentKind kind) : source_(std::move(source)), kind_(kind) {}
@@ -47,6 +49,7 @@ class TextBlocks {
   private:
     Result<void> Start();
     Result<void> ReadMore(std::size_t size);
+    Result<void> Decide();
     Result<void> DecideFromFile();
     Result<void> DecideFromPipe();
     Result<RawBlock> NextOfRichText();

@@ -1,8 +1,5 @@
 #include "engine/check/text_checker.h"
 
-#include <new>
-#include <type_traits>
-
 namespace wordhawk {
 namespace {
 
@@ -25,13 +22,6 @@ TextChecker::TextChecker(DictionaryStore& store, const SplitRules& rules, Rememb
         const int byte = store.Page().ToByteOrNone(entry.word.front());
         if (byte >= 0) may_be_forbidden_[static_cast<std::size_t>(byte)] = true;
     }
-}
-
-std::unique_ptr<PackedWord[], TextChecker::Free> TextChecker::MakeRecent() {
-    static_assert(std::is_trivially_copyable_v<PackedWord>);
-    void* const zeroed = std::calloc(std::size_t{1} << kRecentBits, sizeof(PackedWord));
-    if (zeroed == nullptr) throw std::bad_alloc();
-    return std::unique_ptr<PackedWord[], Free>(static_cast<PackedWord*>(zeroed));
 }
 
 bool TextChecker::IsKnown(const std::wstring& lower_word) {

@@ -5,11 +5,10 @@
 
 #include <array>
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace wordhawk {
@@ -42,6 +41,7 @@ class TextChecker {
     /// A block ends behind a space or a line break, or is the last.
     template <class Sink>
     void Feed(std::wstring_view block, Sink&& sink) {
+        Expect(block.size());
         scanner_.Scan(block, [&](const ScannedWord& word) {
             if (IsKnownAtOnce(word)) return;
             const Verdict verdict = Judge(word.text);
@@ -52,9 +52,26 @@ class TextChecker {
         });
     }
 
+    /// The same for a block that is all ASCII: its bytes. Blocks of both kinds may follow one
+    /// another.
+    template <class Sink>
+    void FeedAscii(std::string_view block, Sink&& sink) {
+        Expect(block.size());
+        scanner_.ScanAscii(block, [&](const AsciiWord& word) {
+            if (IsKnownAtOnce(word)) return;
+            widened_.assign(word.text.begin(), word.text.end());
+            const Verdict verdict = Judge(widened_);
+            if (verdict.index >= 0) {
+                sink(UnknownWord{static_cast<std::size_t>(verdict.index), verdict.is_new, lower_,
+                                 widened_, word.offset});
+            }
+        });
+    }
+
     /// Calls `sink(const ScannedWord&, bool known)` for every word.
     template <class Sink>
     void FeedAll(std::wstring_view block, Sink&& sink) {
+        Expect(block.size());
         scanner_.Scan(block, [&](const ScannedWord& word) {
             sink(word, IsKnownAtOnce(word) || Judge(word.text).index < 0);
         });
@@ -68,23 +85,29 @@ class TextChecker {
     const std::vector<std::wstring>& Words() const { return words_; }
 
   private:
-    /// Whether the quick look does for the word and finds it.
-    bool IsKnownAtOnce(const ScannedWord& word) {
-        return !word.bytes.empty() &&
-               !may_be_forbidden_[static_cast<unsigned char>(word.bytes[0])] && IsInMain(word);
+    /// Says how much text comes next.
+    void Expect(std::size_t units) {
+        if (scanner_.Consumed() + units <= kShortText || recent_bits_ == kMostRecentBits) return;
+        recent_bits_ = kMostRecentBits;
+        recent_.assign(std::size_t{1} << (kMostRecentBits - 1), {});
     }
-    bool IsInMain(const ScannedWord& word) {
-        const bool packs = word.packed != PackedWord{};
-        PackedWord& recent = recent_[(word.packed.low ^ word.packed.high) * 0x9E3779B97F4A7C15u >>
-                                     (64 - kRecentBits)];
-        if (packs && recent == word.packed) return true;
-        const DictionaryFile& file = store_.MainFileOfBytes(
-            static_cast<unsigned char>(word.bytes[0]), static_cast<unsigned char>(word.bytes[1]));
-        if (!file.ContainsHashed(word.bytes, DictionaryFile::HashBytes(word.bytes),
-                                 EntryForms::KeyedOnly)) {
+    /// Whether the quick look does for the word and finds it.
+    template <class Unit>
+    bool IsKnownAtOnce(const WordOf<Unit>& word) {
+        if (word.bytes.empty() || may_be_forbidden_[static_cast<unsigned char>(word.bytes[0])])
             return false;
+        const bool packs = word.packed != PackedWord{};
+        if (!packs) return store_.IsInMain(word.bytes);
+        const std::uint64_t hash = (word.packed.low ^ word.packed.high) * 0x9E3779B97F4A7C15u;
+        RecentPair& recent = recent_[hash >> (65 - recent_bits_)];
+        if (recent.last == word.packed) return true;
+        if (recent.before == word.packed) {
+            std::swap(recent.last, recent.before);
+            return true;
         }
-        if (packs) recent = word.packed;
+        if (!store_.IsInMain(word.bytes)) return false;
+        recent.before = recent.last;
+        recent.last = word.packed;
         return true;
     }
     struct Verdict {
@@ -105,14 +128,16 @@ class TextChecker {
     };
 
     // Some ten thousand words make up nearly all of any text; these stay in the processor's cache.
-    static constexpr int kRecentBits = 15;
+    // A short text, which would get another page of memory for nearly every word, has fewer places.
+    static constexpr int kMostRecentBits = 15;
+    static constexpr int kFewRecentBits = 7;
+    static constexpr std::size_t kShortText = 4096;
 
-    struct Free {
-        void operator()(PackedWord* words) const { std::free(words); }
+    /// Of the words that choose one place, the two that were met last.
+    struct RecentPair {
+        PackedWord last;
+        PackedWord before;
     };
-    /// Zeroed memory that the system provides page by page as it is used, so that a short text does
-    /// not pay for it.
-    static std::unique_ptr<PackedWord[], Free> MakeRecent();
 
     DictionaryStore& store_;
     Remember remember_;
@@ -122,8 +147,11 @@ class TextChecker {
     std::array<bool, 256> may_be_forbidden_{};
     WordScanner scanner_;
     /// Words lately found in the main dictionary, each in the place that its bytes choose.
-    std::unique_ptr<PackedWord[], Free> recent_ = MakeRecent();
+    std::vector<RecentPair> recent_ = std::vector<RecentPair>(1 << (kFewRecentBits - 1));
+    /// How many words there is room for, as a power of two.
+    int recent_bits_ = kFewRecentBits;
     std::wstring lower_;
+    std::wstring widened_;
     std::vector<std::wstring> words_;
     /// Lower-cased words that needed more than the quick look: index in the list, or -1.
     std::unordered_map<std::wstring, std::int64_t, Hash, std::equal_to<>> verdicts_;

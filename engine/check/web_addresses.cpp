@@ -14,20 +14,49 @@ constexpr std::array<std::wstring_view, 12> kPrefixes = {
     L"http:", L"https:",    L"ftp:",    L"mailto:", L"file:", L"gopher:",
     L"nntp:", L"prospero:", L"telnet:", L"news:",   L"wais:", L"www."};
 
+constexpr std::size_t kUnitsAtOnce = 32;
+
+/// Whether one of kUnitsAtOnce units ends a prefix. Looks at all of them, which the processor does
+/// side by side.
+template <class Unit>
+bool HoldsMark(const Unit* units) {
+    bool holds = false;
+    for (std::size_t i = 0; i < kUnitsAtOnce; ++i) holds |= units[i] == ':' || units[i] == '.';
+    return holds;
+}
+
 /// Start of the first address prefix at or behind `from`, npos when there is none. Every prefix
 /// ends in a mark that it holds nowhere else, so the first mark found belongs to the first prefix.
-std::size_t FindPrefix(std::wstring_view text, std::size_t from) {
-    for (std::size_t mark = from; mark < text.size(); ++mark) {
-        if (text[mark] != L':' && text[mark] != L'.') continue;
-        for (const std::wstring_view prefix : kPrefixes) {
-            const std::size_t letters = prefix.size() - 1;
-            if (mark >= from + letters &&
-                text.compare(mark - letters, prefix.size(), prefix) == 0) {
-                return mark - letters;
+template <class Unit>
+std::size_t FindPrefix(std::basic_string_view<Unit> text, std::size_t from) {
+    for (std::size_t mark = from; mark < text.size();) {
+        const std::size_t end = std::min(mark + kUnitsAtOnce, text.size());
+        if (end - mark == kUnitsAtOnce && !HoldsMark(text.data() + mark)) mark = end;
+        for (; mark < end; ++mark) {
+            if (text[mark] != ':' && text[mark] != '.') continue;
+            for (const std::wstring_view prefix : kPrefixes) {
+                const std::size_t letters = prefix.size() - 1;
+                if (mark >= from + letters && prefix[letters - 1] == text[mark - 1] &&
+                    std::equal(prefix.begin(), prefix.end(), text.data() + mark - letters)) {
+                    return mark - letters;
+                }
             }
         }
     }
-    return std::wstring_view::npos;
+    return text.npos;
+}
+
+template <class Unit>
+std::vector<AddressBlanker::Range> FindRunsIn(std::basic_string_view<Unit> block) {
+    std::vector<AddressBlanker::Range> runs;
+    for (std::size_t at = FindPrefix(block, 0); at != block.npos;) {
+        const auto end_at = std::find_if(block.begin() + static_cast<std::ptrdiff_t>(at),
+                                         block.end(), IsAddressEnd);
+        const auto end = static_cast<std::size_t>(end_at - block.begin());
+        runs.push_back({at, end - at});
+        at = FindPrefix(block, end);
+    }
+    return runs;
 }
 
 /// Blanks the addresses with one prefix in one run between end characters.
@@ -180,15 +209,11 @@ bool IsAddressEnd(wchar_t c) {
 }
 
 std::vector<AddressBlanker::Range> AddressBlanker::FindRuns(std::wstring_view block) {
-    std::vector<Range> runs;
-    for (std::size_t at = FindPrefix(block, 0); at != std::wstring::npos;) {
-        const auto end_at = std::find_if(block.begin() + static_cast<std::ptrdiff_t>(at),
-                                         block.end(), IsAddressEnd);
-        const auto end = static_cast<std::size_t>(end_at - block.begin());
-        runs.push_back({at, end - at});
-        at = FindPrefix(block, end);
-    }
-    return runs;
+    return FindRunsIn(block);
+}
+
+std::vector<AddressBlanker::Range> AddressBlanker::FindRuns(std::string_view ascii) {
+    return FindRunsIn(ascii);
 }
 
 void AddressBlanker::BlankRuns(std::wstring& block, const std::vector<Range>& runs,

@@ -40,6 +40,7 @@ class AddressBlanker {
     /// The two halves of Blank: where addresses can stand in a block, which does not depend on the
     /// blocks before it, and the rest, which does.
     static std::vector<Range> FindRuns(std::wstring_view block);
+    static std::vector<Range> FindRuns(std::string_view ascii);
     void BlankRuns(std::wstring& block, const std::vector<Range>& runs,
                    std::vector<Range>* ranges = nullptr);
 

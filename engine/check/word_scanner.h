@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/check/packed_word.h"
 #include "engine/check/split_rules.h"
 #include "engine/check/web_addresses.h"
 #include "platform/text.h"
@@ -12,23 +13,11 @@
 
 namespace wordhawk {
 
-/// Up to 16 bytes, none of them NUL, as one number: equal numbers are equal words.
-struct PackedWord {
-    static constexpr std::size_t kLongest = 16;
-    std::uint64_t high = 0;
-    std::uint64_t low = 0;
-
-    void Append(unsigned char byte) {
-        high = (high << 8) | (low >> 56);
-        low = (low << 8) | byte;
-    }
-    bool operator==(const PackedWord&) const = default;
-};
-
 /// A word that is to be looked up. Views are valid during the callback only.
-struct ScannedWord {
+template <class Unit>
+struct WordOf {
     /// As it stands in the text, cleaned, in its own case.
-    std::wstring_view text;
+    std::basic_string_view<Unit> text;
     /// Offset of its first unit, counted from the start of the first block.
     std::uint64_t offset;
     /// Its lower-cased bytes, with straight apostrophes as the rules have them, when it consists of
@@ -37,6 +26,9 @@ struct ScannedWord {
     /// The same bytes as one number, for words of at most 16 of them; else 0.
     PackedWord packed;
 };
+
+using ScannedWord = WordOf<wchar_t>;
+using AsciiWord = WordOf<char>;
 
 /// Cuts a text that comes in blocks into the words that a check looks up: in one pass what
 /// RemoveWebAddresses, ReplaceDelimiters, lower-casing, splitting and CleanWord do one after
@@ -54,10 +46,20 @@ class WordScanner {
         if (!runs.empty()) {
             blanked_.assign(block);
             addresses_.BlankRuns(blanked_, runs);
-            ScanPlain(blanked_, sink);
+            ScanPlain(std::wstring_view(blanked_), sink);
         } else {
             ScanPlain(block, sink);
         }
+        consumed_ += block.size();
+    }
+
+    /// The same for a block that is all ASCII, whose bytes are its units: calls
+    /// `sink(const AsciiWord&)`. Blocks of both kinds may follow one another.
+    template <class Sink>
+    void ScanAscii(std::string_view block, Sink&& sink) {
+        std::vector<AddressBlanker::Range> runs;
+        if (rules_.ignore_webs) runs = AddressBlanker::FindRuns(block);
+        ScanPlain(runs.empty() ? block : WithoutAddresses(block, runs), sink);
         consumed_ += block.size();
     }
 
@@ -73,15 +75,29 @@ class WordScanner {
 
     static bool IsApostrophe(wchar_t c) { return c == L'\'' || c == kTypographicApostrophe; }
 
-    template <class Sink>
-    void ScanPlain(std::wstring_view block, Sink&& sink);
-    template <class Sink>
-    void ScanUnusual(std::wstring_view token, std::uint64_t offset, Sink&& sink);
+    unsigned EntryOf(char c) const { return latin_[static_cast<unsigned char>(c)]; }
+    unsigned EntryOf(wchar_t c) const {
+        const auto unit = static_cast<std::uint16_t>(c);
+        return unit < latin_.size() ? latin_[unit] : others_[c];
+    }
+    void SetEntry(wchar_t c, std::uint16_t entry);
+
+    std::string_view WithoutAddresses(std::string_view ascii,
+                                      const std::vector<AddressBlanker::Range>& runs);
+    template <class Unit, class Sink>
+    void ScanPlain(std::basic_string_view<Unit> block, Sink&& sink);
+    template <class Unit, class Sink>
+    void ScanUnusual(std::basic_string_view<Unit> token, std::uint64_t offset, Sink&& sink);
 
     SplitRules rules_;
-    std::array<std::uint16_t, 65536> table_;
+    /// The entries of the first 256 units, and those of the others.
+    std::array<std::uint16_t, 256> latin_;
+    UnitTable<std::uint16_t> others_{kUnusual};
+    /// Whether no letter of ASCII is any more than that.
+    bool letters_are_usual_ = true;
     AddressBlanker addresses_;
     std::wstring blanked_;
+    std::string blanked_ascii_;
     std::wstring lower_;
     std::uint64_t consumed_ = 0;
 };

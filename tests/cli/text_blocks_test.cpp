@@ -53,7 +53,9 @@ TEST(TextBlocks, AreTheWholeDocumentCutBehindBlanks) {
         TextEncoding::Ansi, TextEncoding::Utf8, TextEncoding::Utf8WithMark,
         TextEncoding::Utf16LittleEndian, TextEncoding::Utf16BigEndian};
     for (int round = 0; round < 20; ++round) {
-        const std::wstring text = random.Mix(pieces, random.Below(250'000));
+        const std::size_t ascii_units = random.OneIn(2) ? random.Below(400'000) : 0;
+        const std::wstring text = random.Mix({L"word", L" ", L"\n"}, ascii_units / 2) +
+                                  random.Mix(pieces, random.Below(250'000));
         std::string bytes = EncodeDocument(text, kEncodings[round % 5], LineEnds::CrLf, Latin());
         if (random.OneIn(3))
             bytes.insert(random.Below(bytes.size() + 1), 1, static_cast<char>(random.Below(256)));

@@ -120,11 +120,14 @@ TEST_F(CheckPass, OneVeryLongLineIsChecked) {
 /// Word by word through the public look-up.
 TEST_F(CheckPass, OccurrencesAgreeWithLookingUpEveryWord) {
     test::Random random(17);
-    const std::vector<std::wstring> pieces = {L"the",  L"cat", L"zat", L"Mine",       L"bare",
-                                              L"\xE9", L"a",   L"'",   L"12",         L" ",
-                                              L" ",    L".",   L"\n",  L"\x410\x411", L"aa"};
+    const std::vector<std::wstring> ascii = {L"the", L"cat", L"zat", L"Mine", L"bare", L"a", L"'",
+                                             L"12",  L" ",   L" ",   L".",    L"\n",   L"aa"};
+    std::vector<std::wstring> pieces = ascii;
+    pieces.insert(pieces.end(), {L"\xE9", L"\x410\x411"});
     for (int round = 0; round < 500; ++round) {
-        const std::wstring text = random.Mix(pieces, 60);
+        const bool is_ascii = round % 2 == 0;
+        const std::wstring text =
+            random.Mix(is_ascii ? ascii : pieces, round % 50 == 0 ? 6000 : 60);
         Words expected;
         WordScanner scanner(rules_, *data_.state.CodePage);
         scanner.Scan(text, [&](const ScannedWord& word) {
@@ -136,6 +139,14 @@ TEST_F(CheckPass, OccurrencesAgreeWithLookingUpEveryWord) {
         checker.Feed(text, [&](const UnknownWord& unknown) {
             got.emplace_back(unknown.listed);
             EXPECT_EQ(checker.Words()[unknown.index], unknown.listed);
+            EXPECT_EQ(text.substr(unknown.offset, unknown.text.size()), unknown.text);
+        });
+        ASSERT_EQ(got, expected) << "round " << round;
+        if (!is_ascii) continue;
+        got.clear();
+        TextChecker of_bytes(data_.store, rules_);
+        of_bytes.FeedAscii(ToUtf8(text), [&](const UnknownWord& unknown) {
+            got.emplace_back(unknown.listed);
             EXPECT_EQ(text.substr(unknown.offset, unknown.text.size()), unknown.text);
         });
         ASSERT_EQ(got, expected) << "round " << round;

@@ -110,21 +110,28 @@ struct Found {
 std::vector<Found> ScanInBlocks(const std::wstring& text, const SplitRules& rules, Random* cuts) {
     WordScanner scanner(rules, Latin());
     std::vector<Found> found;
-    const auto sink = [&](const ScannedWord& word) {
+    const auto sink = [&](const auto& word) {
+        const std::wstring word_text(word.text.begin(), word.text.end());
         if (!word.bytes.empty()) {
-            EXPECT_EQ(Latin().Decode(word.bytes), Read(word.text, rules));
+            EXPECT_EQ(Latin().Decode(word.bytes), Read(word_text, rules));
             PackedWord packed;
             for (const char byte : word.bytes) packed.Append(static_cast<unsigned char>(byte));
             EXPECT_EQ(word.packed,
                       word.bytes.size() <= PackedWord::kLongest ? packed : PackedWord{});
         }
-        found.push_back({Read(word.text, rules), word.offset});
+        found.push_back({Read(word_text, rules), word.offset});
     };
     for (std::size_t from = 0; from < text.size();) {
         std::size_t end = cuts == nullptr ? std::wstring::npos
                                           : text.find_first_of(L" \r\n", from + cuts->Below(30));
         end = end == std::wstring::npos ? text.size() : end + 1;
-        scanner.Scan(std::wstring_view(text).substr(from, end - from), sink);
+        const std::wstring_view block = std::wstring_view(text).substr(from, end - from);
+        const std::string utf8 = ToUtf8(block);
+        if (cuts != nullptr && IsAscii(utf8) && cuts->OneIn(2)) {
+            scanner.ScanAscii(utf8, sink);
+        } else {
+            scanner.Scan(block, sink);
+        }
         from = end;
     }
     return found;
