@@ -1,5 +1,6 @@
 #include "engine/suggest/build_word_image.h"
 
+#include "dict/dictionary_file.h"
 #include "dict/lines.h"
 #include "dict/phonetic_key.h"
 #include "engine/suggest/word_skeletons.h"
@@ -8,6 +9,8 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <span>
+#include <type_traits>
 #include <unordered_map>
 #include <vector>
 
@@ -39,12 +42,23 @@ Commonness ReadCommonness(const Path& file, const AnsiCodePage& page) {
 /// Collects the parts of an image and writes them behind each other.
 class ImageWriter {
   public:
-    explicit ImageWriter(const WordImageSources& sources)
+    ImageWriter(const WordImageSources& sources, std::span<const StampedName> files)
         : page_(*sources.page), commonness_(ReadCommonness(sources.frequencies, page_)) {
         header_.magic = word_image::kMagic;
         header_.version = word_image::kVersion;
         header_.code_page = static_cast<std::uint32_t>(page_.Number());
         header_.frequencies = StampOf(sources.frequencies);
+        for (const auto& [word, commonness] : commonness_)
+            may_be_counted_[PlaceInCounted(word)] = true;
+        // Room for as many words as there can be, which costs nothing until it is used: parts that
+        // grow would leave holes in memory behind.
+        constexpr std::size_t kShortestLine = 8;
+        std::size_t bytes = 0;
+        for (const StampedName& file : files) bytes += file.stamp.size;
+        text_.reserve(bytes);
+        offsets_.reserve(bytes / kShortestLine);
+        groups_.reserve(bytes / kShortestLine);
+        values_.reserve(bytes / kShortestLine);
         offsets_.push_back(0);
     }
 
@@ -74,30 +88,40 @@ class ImageWriter {
         header_.pairs = static_cast<std::uint32_t>(pairs.size());
     }
 
+    /// The image; the writer is used up.
     std::string Finish() {
         prefix_starts_.push_back(static_cast<std::uint32_t>(values_.size()));
         BuildIndex();
+        commonness_ = Commonness();
         header_.files = static_cast<std::uint32_t>(files_.size());
         header_.words = static_cast<std::uint32_t>(values_.size());
         header_.prefixes = static_cast<std::uint32_t>(prefixes_.size());
+        prefixes_ = std::vector<std::uint64_t>();
         header_.entries = static_cast<std::uint32_t>(entries_.size());
         header_.text_size = static_cast<std::uint32_t>(text_.size());
         header_.names_size = static_cast<std::uint32_t>(names_.size());
         const word_image::Layout layout(header_);
-        std::string image(layout.size, '\0');
-        const auto put = [&image](std::uint64_t at, const auto& values) {
-            if (!values.empty())
-                std::memcpy(image.data() + at, values.data(), values.size() * sizeof values[0]);
+        std::string image;
+        image.reserve(layout.size);
+        // Each part leaves its own memory to the image as it goes there.
+        const auto move_to = [&image](std::uint64_t at, auto& part) {
+            image.resize(at);
+            if (!part.empty())
+                image.append(reinterpret_cast<const char*>(part.data()),
+                             part.size() * sizeof part[0]);
+            // An assignment would let a text keep its memory.
+            std::remove_reference_t<decltype(part)>().swap(part);
         };
-        put(layout.files, files_);
-        put(layout.offsets, offsets_);
-        put(layout.groups, groups_);
-        put(layout.prefix_starts, prefix_starts_);
-        put(layout.heads, heads_);
-        put(layout.entries, entries_);
-        put(layout.commonness, values_);
-        put(layout.text, text_);
-        put(layout.names, names_);
+        move_to(layout.files, files_);
+        move_to(layout.offsets, offsets_);
+        move_to(layout.groups, groups_);
+        move_to(layout.prefix_starts, prefix_starts_);
+        move_to(layout.heads, heads_);
+        move_to(layout.entries, entries_);
+        move_to(layout.commonness, values_);
+        move_to(layout.text, text_);
+        move_to(layout.names, names_);
+        image.resize(layout.size);
         std::memcpy(image.data(), &header_, sizeof header_);
         header_.checksum = word_image::Checksum(word_image::Checked(image));
         std::memcpy(image.data(), &header_, sizeof header_);
@@ -125,9 +149,18 @@ class ImageWriter {
         text_ += word;
         offsets_.push_back(static_cast<std::uint32_t>(text_.size()));
         groups_.push_back(LetterGroups(word));
+        values_.push_back(CommonnessOf(word));
+    }
+
+    static std::size_t PlaceInCounted(std::string_view word) {
+        return DictionaryFile::HashBytes(word) >> (32 - kCountedBits);
+    }
+
+    std::uint8_t CommonnessOf(std::string_view word) {
+        if (!may_be_counted_[PlaceInCounted(word)]) return 0;
         key_ = word;
         const auto known = commonness_.find(key_);
-        values_.push_back(known == commonness_.end() ? std::uint8_t{0} : known->second);
+        return known == commonness_.end() ? std::uint8_t{0} : known->second;
     }
 
     /// Lists the prefixes by the buckets of their skeletons: counts, then places them.
@@ -156,8 +189,12 @@ class ImageWriter {
         heads_.back() = static_cast<std::uint32_t>(entries_.size());
     }
 
+    static constexpr int kCountedBits = 22;
+
     const AnsiCodePage& page_;
     Commonness commonness_;
+    /// By some bits of their hashes, the words that may have a count: of millions of forms few do.
+    std::vector<bool> may_be_counted_ = std::vector<bool>(std::size_t{1} << kCountedBits);
     WordImage::Header header_{};
     std::vector<WordImage::FileRow> files_;
     std::vector<std::uint32_t> offsets_;
@@ -199,7 +236,7 @@ bool MainEntryTest::Passes(std::string_view word) {
 
 std::string BuildWordImage(const WordImageSources& sources, Progress& progress) {
     const std::vector<StampedName> files = StampedFiles(sources.folder, L".dic");
-    ImageWriter writer(sources);
+    ImageWriter writer(sources, files);
     progress.SetRange(files.size());
     std::uint64_t done = 0;
     for (const StampedName& file : files) {

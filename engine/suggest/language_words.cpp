@@ -76,10 +76,15 @@ bool LanguageWords::OpenImage(Progress& progress) {
     if (in_memory_.empty()) return false;
     const bool written =
         only_maker && ReplaceFileContents(cache, in_memory_, Durability::LeftToTheSystem);
+    // The file stands for the block in memory, which millions of words make large; an assignment
+    // would keep it.
+    if (written) std::string().swap(in_memory_);
     if (!written || !ReadCache()) {
+        // Somebody took the file away again.
+        if (written) in_memory_ = BuildWordImage({folder_, FrequenciesFile(), page_}, progress);
+        if (in_memory_.empty()) return false;
         image_ = WordImage::Read(in_memory_, page_->Number());
     }
-    if (mapped_) in_memory_ = {};
     outdated_.clear();
     lists_.erase(lists_.begin(), lists_.begin() + static_cast<std::ptrdiff_t>(main_lists_));
     main_lists_ = 0;
