@@ -184,15 +184,16 @@ bool MergeCustomDictionaryList(const ProgramState& state, std::span<const std::w
 
 Result<void> ActivateCustomDictionary(const ProgramState& state, Settings& settings,
                                       std::wstring_view name) {
-    return modSect::ChangeProfile(
-        state.SettingsProfile(), [&](modSect::Change& change) -> Result<void> {
-            std::vector<std::wstring> names = NamesOf(change.Section(kDictionariesSection));
-            if (names.empty()) names.emplace_back(kDefaultDictionary);
-            if (!Holds(names, name)) names.emplace_back(name);
-            const Result<void> written = WriteNames(state, change, names);
-            if (written) settings.CustomDictionaries = std::move(names);
-            return written;
-        });
+    std::vector<std::wstring> names;
+    const auto activate = [&](modSect::Change& change) {
+        names = NamesOf(change.Section(kDictionariesSection));
+        if (names.empty()) names.emplace_back(kDefaultDictionary);
+        if (!Holds(names, name)) names.emplace_back(name);
+        return WriteNames(state, change, names);
+    };
+    Result<void> written = modSect::ChangeProfile(state.SettingsProfile(), activate);
+    if (written) settings.CustomDictionaries = std::move(names);
+    return written;
 }
 
 bool SaveSetting(const ProgramState& state, const Settings& settings, std::wstring_view key) {
