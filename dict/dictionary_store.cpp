@@ -188,16 +188,18 @@ DictionaryStore::Loaded& DictionaryStore::LoadCustom(Custom& custom) {
 }
 
 const ForbiddenWords& DictionaryStore::Forbidden() {
-    const Path path = ForbiddenPath();
-    if (forbidden_from_ == path) return forbidden_;
-    forbidden_from_ = path;
-    const Loaded loaded = Read(path);
+    // Asked for with every word that is looked up, so without making a path.
+    if (forbidden_is_read_ && forbidden_data_folder_ == state_.DataFolder.native())
+        return forbidden_;
+    forbidden_is_read_ = true;
+    forbidden_data_folder_ = state_.DataFolder.native();
+    const Loaded loaded = Read(ForbiddenPath());
     forbidden_ = ForbiddenWords(loaded.file.Bytes(), Page());
     return forbidden_;
 }
 
 void DictionaryStore::ReloadCustomDictionaries() {
-    forbidden_from_.clear();
+    forbidden_is_read_ = false;
     SyncCustomSet();
     for (Custom& custom : custom_) {
         custom.is_loaded = false;

@@ -133,8 +133,9 @@ class DictionaryStore {
     Path::string_type custom_data_folder_;
     std::vector<Error> unreadable_;
     ForbiddenWords forbidden_;
-    /// The file that they were read from; empty before.
-    Path forbidden_from_;
+    bool forbidden_is_read_ = false;
+    /// Where they were read.
+    Path::string_type forbidden_data_folder_;
     /// Of the folder above.
     std::optional<PackExtras> extras_;
     /// The word being looked up, kept for its memory.
