@@ -16,22 +16,28 @@ constexpr std::array<std::wstring_view, 12> kPrefixes = {
 
 constexpr std::size_t kUnitsAtOnce = 32;
 
-/// Whether one of kUnitsAtOnce units ends a prefix. Looks at all of them, which the processor does
-/// side by side.
+/// Whether one of kUnitsAtOnce units may end a prefix: a colon, or a full stop behind a "w"; there
+/// is a unit before them. Looks at all of them, in numbers of their own size, which the compiler
+/// has the processor do side by side.
 template <class Unit>
-bool HoldsMark(const Unit* units) {
-    bool holds = false;
-    for (std::size_t i = 0; i < kUnitsAtOnce; ++i) holds |= units[i] == ':' || units[i] == '.';
-    return holds;
+bool MayHoldMark(const Unit* units) {
+    Unit holds = 0;
+    for (std::size_t i = 0; i < kUnitsAtOnce; ++i) {
+        const Unit is_colon = units[i] == ':' ? 1 : 0;
+        const Unit is_stop = units[i] == '.' ? 1 : 0;
+        const Unit is_behind_w = units[i - 1] == 'w' ? 1 : 0;
+        holds = static_cast<Unit>(holds | is_colon | (is_stop & is_behind_w));
+    }
+    return holds != 0;
 }
 
 /// Start of the first address prefix at or behind `from`, npos when there is none. Every prefix
 /// ends in a mark that it holds nowhere else, so the first mark found belongs to the first prefix.
 template <class Unit>
 std::size_t FindPrefix(std::basic_string_view<Unit> text, std::size_t from) {
-    for (std::size_t mark = from; mark < text.size();) {
+    for (std::size_t mark = from + 1; mark < text.size();) {
         const std::size_t end = std::min(mark + kUnitsAtOnce, text.size());
-        if (end - mark == kUnitsAtOnce && !HoldsMark(text.data() + mark)) mark = end;
+        if (end - mark == kUnitsAtOnce && !MayHoldMark(text.data() + mark)) mark = end;
         for (; mark < end; ++mark) {
             if (text[mark] != ':' && text[mark] != '.') continue;
             for (const std::wstring_view prefix : kPrefixes) {
