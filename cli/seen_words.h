@@ -24,7 +24,7 @@ class SeenWords {
 
     std::vector<char> bytes_;
     /// A power of two of slots, at most two thirds of them taken.
-    std::vector<Slot> slots_ = std::vector<Slot>(1024);
+    std::vector<Slot> slots_ = std::vector<Slot>(64);
     std::size_t count_ = 0;
 };
 
