@@ -1,14 +1,15 @@
 #!/usr/bin/env python3
 """Writes how common the words of a finished dictionary are.
 
-    frequencies.py --dictionary FOLDER --code-page N [--common LIST] [--pairs LIST] MODEL...
+    frequencies.py --dictionary FOLDER --code-page N [--common LIST] [--pairs LIST] [--prose COUNTS] MODEL...
 
 FOLDER gets frequencies.txt: lines of word, blank, count in UTF-8, ascending. The counts come from the word
 models of Debian's onboard-data (where several have a word, the highest); capitals count with their lower
 case. A form that no model has, but whose stem one has, gets a small share of the stem's count. With a LIST of
 a language's common words, all others count a tenth: names and terms, which the models have many of, are
 seldom what a writer meant. PAIRS are two words each that are often written as one; they get lines as well,
-with the count of the rarer word.
+with the count of the rarer word. COUNTS, lines of word, blank, count, are of prose of another kind; where they
+are higher they hold.
 """
 
 import argparse
@@ -72,10 +73,12 @@ def main():
     parser.add_argument("--code-page", type=int, default=1252)
     parser.add_argument("--common")
     parser.add_argument("--pairs")
+    parser.add_argument("--prose")
     parser.add_argument("models", nargs="+")
     arguments = parser.parse_args()
     counts = counts_of(arguments.models)
     common = {word.lower() for word in read_words(arguments.common)} if arguments.common else None
+    prose = dict(line.split() for line in read_words(arguments.prose)) if arguments.prose else {}
     lines = []
     for word in words_of(arguments.dictionary, arguments.code_page):
         count = counts.get(word, 0)
@@ -83,6 +86,7 @@ def main():
             count = share
         if common is not None:
             count = max(count, LEAST_OF_COMMON) if word in common else int(count * SHARE_OF_UNCOMMON)
+        count = max(count, int(prose.get(word, 0)))
         if count:
             lines.append(f"{word} {count}\n")
     for pair in read_words(arguments.pairs) if arguments.pairs else ():
