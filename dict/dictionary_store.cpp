@@ -42,7 +42,7 @@ bool DictionaryStore::IsWordInDictionaries(std::wstring_view word, Scope scope) 
             first, lower_bytes_.size() > 1 ? static_cast<unsigned char>(lower_bytes_[1]) : first);
     }
     if (file->Contains(lower_bytes_, EntryForms::KeyedOnly)) return true;
-    if (IsInPackExtras(lower_bytes_)) return true;
+    if (IsInPackExtras(lower_bytes_, initial != word[0])) return true;
     return scope == Scope::MainAndCustom && IsInCustomFiles(lower_bytes_);
 }
 
@@ -50,11 +50,11 @@ bool DictionaryStore::IsWordInCustomDictionaries(std::wstring_view word) {
     return !word.empty() && IsInCustomFiles(Page().Encode(Lower(word)));
 }
 
-bool DictionaryStore::IsInPackExtras(std::string_view lower_bytes) {
+bool DictionaryStore::IsInPackExtras(std::string_view lower_bytes, bool has_capital) {
     if (!extras_) extras_.emplace(state_.LanguageDictFolder, unreadable_);
     const bool words_stay_whole = settings_.LettersStay != 0 && settings_.StraightApostrophe != 0;
     if (!words_stay_whole && extras_->IsPiece(lower_bytes)) return true;
-    return settings_.Compounds != 0 && extras_->IsCompound(lower_bytes);
+    return settings_.Compounds != 0 && extras_->IsCompound(lower_bytes, has_capital);
 }
 
 bool DictionaryStore::IsInCustomFiles(std::string_view lower_bytes) {

@@ -33,7 +33,7 @@ class DictionaryStore {
     /// Whether the word is in the main dictionary or, unless MainOnly, in a custom one. Pieces of
     /// the main dictionary's words count unless letters and apostrophes stay in their words
     /// (settings LettersStay, StraightApostrophe), compounds of them where setting Compounds says
-    /// so.
+    /// so; of these some only with a capital.
     bool IsWordInDictionaries(std::wstring_view word, Scope scope);
     bool IsWordInCustomDictionaries(std::wstring_view word);
 
@@ -117,7 +117,7 @@ class DictionaryStore {
     void SyncCustomSet();
     Loaded& LoadCustom(Custom& custom);
     bool IsInCustomFiles(std::string_view lower_bytes);
-    bool IsInPackExtras(std::string_view lower_bytes);
+    bool IsInPackExtras(std::string_view lower_bytes, bool has_capital);
 
     ProgramState& state_;
     Settings& settings_;

@@ -7,8 +7,8 @@ constexpr int kMostMiddles = 2;
 /// Longer words are no compounds that anybody writes, and would take long to take apart.
 constexpr std::size_t kLongestCompound = 80;
 
-bool Has(const SortedWords& parts, std::string_view part, CompoundRole role) {
-    return (parts.ValueOf(part).value_or(0) & role) != 0;
+bool Has(const SortedWords& parts, std::string_view part, unsigned roles) {
+    return (parts.ValueOf(part).value_or(0) & roles) != 0;
 }
 
 }  // namespace
@@ -31,11 +31,12 @@ bool PackExtras::IsPiece(std::string_view lower_bytes) {
     return Read(pieces_, kPiecesFile).ValueOf(lower_bytes).has_value();
 }
 
-bool PackExtras::IsCompound(std::string_view lower_bytes) {
+bool PackExtras::IsCompound(std::string_view lower_bytes, bool has_capital) {
+    const unsigned first = has_capital ? kCompoundBegin | kCompoundCapital : kCompoundBegin;
     const SortedWords& parts = Read(compounds_, kCompoundsFile);
     if (parts.IsEmpty() || lower_bytes.size() > kLongestCompound) return false;
     for (std::size_t cut = kShortestPart; cut + kShortestPart <= lower_bytes.size(); ++cut) {
-        if (Has(parts, lower_bytes.substr(0, cut), kCompoundBegin) &&
+        if (Has(parts, lower_bytes.substr(0, cut), first) &&
             IsRest(parts, lower_bytes.substr(cut), kMostMiddles))
             return true;
     }

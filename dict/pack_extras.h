@@ -21,6 +21,8 @@ enum CompoundRole : unsigned {
     kCompoundBegin = 2,
     kCompoundMiddle = 4,
     kCompoundEnd = 8,
+    /// A first part that makes a name, or in German a noun: the compound has a capital.
+    kCompoundCapital = 32,
 };
 
 /// What the pack of a language knows beside its words: the pieces into which its words fall where
@@ -37,8 +39,8 @@ class PackExtras {
     bool IsPiece(std::string_view lower_bytes);
 
     /// Whether the word is a first part, any number of middle ones up to two, and a last part,
-    /// linking letters being part of the parts.
-    bool IsCompound(std::string_view lower_bytes);
+    /// linking letters being part of the parts. `has_capital`: it is written with a capital.
+    bool IsCompound(std::string_view lower_bytes, bool has_capital);
 
   private:
     struct List {

@@ -15,6 +15,7 @@ TextChecker::TextChecker(DictionaryStore& store, const SplitRules& rules, Rememb
       remember_(remember),
       scope_(store.CurrentSettings().SuggFromMain != 0 ? Scope::MainOnly : Scope::MainAndCustom),
       straight_apostrophe_(rules.straight_apostrophe),
+      capital_matters_(store.CurrentSettings().Compounds != 0),
       scanner_(rules, store.Page()) {
     // The quick look goes past the store's own check for a changed language.
     store_.SyncWithState();
@@ -24,40 +25,64 @@ TextChecker::TextChecker(DictionaryStore& store, const SplitRules& rules, Rememb
     }
 }
 
-bool TextChecker::IsKnown(const std::wstring& lower_word) {
-    if (store_.Forbidden().Find(lower_word) != nullptr) return false;
+bool TextChecker::IsKnown(const std::wstring& word) {
+    if (store_.Forbidden().Find(lower_) != nullptr) return false;
     const bool typographic =
-        straight_apostrophe_ && lower_word.find(kTypographicApostrophe) != std::wstring::npos;
-    if (typographic && store_.IsWordInDictionaries(WithStraightApostrophes(lower_word), scope_)) {
+        straight_apostrophe_ && word.find(kTypographicApostrophe) != std::wstring::npos;
+    if (typographic && store_.IsWordInDictionaries(WithStraightApostrophes(word), scope_)) {
         return true;
     }
-    return store_.IsWordInDictionaries(lower_word, scope_);
+    return store_.IsWordInDictionaries(word, scope_);
 }
 
 TextChecker::Verdict TextChecker::Judge(std::wstring_view text) {
     lower_.assign(text);
     for (wchar_t& c : lower_) c = LowerChar(c);
+    if (!capital_matters_ || text.front() == lower_.front()) return JudgeLower();
+
+    capitalized_ = lower_;
+    capitalized_.front() = text.front();
+    const auto seen = verdicts_.find(std::wstring_view(capitalized_));
+    if (seen != verdicts_.end()) return {seen->second, false};
+    if (IsKnown(capitalized_)) {
+        Keep(capitalized_, -1, Kept::ForAWhile);
+        return {-1, true};
+    }
+    // What is unknown with a capital is so without: one entry of the list stands for both.
+    const Verdict verdict = JudgeLower();
+    Keep(capitalized_, verdict.index, remember_ == Remember::All ? Kept::Always : Kept::ForAWhile);
+    return verdict;
+}
+
+TextChecker::Verdict TextChecker::JudgeLower() {
     const auto seen = verdicts_.find(std::wstring_view(lower_));
     if (seen != verdicts_.end()) return {seen->second, false};
 
     std::int64_t index = -1;
-    bool passing = true;
+    Kept how_long = Kept::ForAWhile;
     if (!IsKnown(lower_)) {
         index = 0;
         if (remember_ == Remember::All) {
             index = static_cast<std::int64_t>(words_.size());
             words_.push_back(lower_);
-            passing = false;
+            how_long = Kept::Always;
         }
     }
-    if (passing) {
-        ++passing_verdicts_;
-        passing_units_ += lower_.size();
-        if (passing_verdicts_ > kMostPassingVerdicts || passing_units_ > kMostPassingUnits)
-            ForgetOldVerdicts();
-    }
-    verdicts_.emplace(lower_, index);
+    Keep(lower_, index, how_long);
     return {index, true};
+}
+
+void TextChecker::Keep(const std::wstring& word, std::int64_t index, Kept how_long) {
+    if (how_long == Kept::ForAWhile) {
+        ++passing_verdicts_;
+        passing_units_ += word.size();
+        if (passing_verdicts_ > kMostPassingVerdicts || passing_units_ > kMostPassingUnits) {
+            ForgetOldVerdicts();
+            passing_verdicts_ = 1;
+            passing_units_ = word.size();
+        }
+    }
+    verdicts_.emplace(word, index);
 }
 
 void TextChecker::ForgetOldVerdicts() {
@@ -66,8 +91,6 @@ void TextChecker::ForgetOldVerdicts() {
     } else {
         std::erase_if(verdicts_, [](const auto& entry) { return entry.second < 0; });
     }
-    passing_verdicts_ = 1;
-    passing_units_ = lower_.size();
 }
 
 }  // namespace wordhawk

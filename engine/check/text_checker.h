@@ -117,7 +117,12 @@ class TextChecker {
     };
     /// Leaves the lower-cased word in `lower_`.
     Verdict Judge(std::wstring_view text);
-    bool IsKnown(const std::wstring& lower_word);
+    /// The verdict on `lower_`, which is remembered.
+    Verdict JudgeLower();
+    /// Whether `lower_` is known, or would be if it were written as `word`.
+    bool IsKnown(const std::wstring& word);
+    enum class Kept { Always, ForAWhile };
+    void Keep(const std::wstring& word, std::int64_t index, Kept how_long);
     void ForgetOldVerdicts();
 
     struct Hash {
@@ -143,6 +148,8 @@ class TextChecker {
     Remember remember_;
     Scope scope_;
     bool straight_apostrophe_;
+    /// Whether a word may be known with a capital and unknown without, as compounds are.
+    bool capital_matters_;
     /// By the first byte of a word.
     std::array<bool, 256> may_be_forbidden_{};
     WordScanner scanner_;
@@ -152,8 +159,11 @@ class TextChecker {
     int recent_bits_ = kFewRecentBits;
     std::wstring lower_;
     std::wstring widened_;
+    /// `lower_` with the capital that it has in the text.
+    std::wstring capitalized_;
     std::vector<std::wstring> words_;
-    /// Lower-cased words that needed more than the quick look: index in the list, or -1.
+    /// Words that needed more than the quick look, lower-cased but for a first letter that matters:
+    /// index in the list, or -1.
     std::unordered_map<std::wstring, std::int64_t, Hash, std::equal_to<>> verdicts_;
     std::size_t passing_verdicts_ = 0;
     /// Units of the words with a passing verdict.

@@ -49,6 +49,7 @@ TEST(PackExtras, TakesCompoundsApartByTheRolesOfTheirParts) {
                SortedWords::Make({{"arbeits", kCompoundBegin | kCompoundMiddle},
                                   {"zimmer", kCompoundBegin | kCompoundMiddle | kCompoundEnd},
                                   {"ab", kCompoundBegin | kCompoundEnd},
+                                  {"export", kCompoundCapital | kCompoundMiddle},
                                   {"tisch", kCompoundEnd}}));
     std::vector<Error> unreadable;
     PackExtras extras(temp.Folder(), unreadable);
@@ -68,10 +69,15 @@ TEST(PackExtras, TakesCompoundsApartByTheRolesOfTheirParts) {
         {"zimmerx", false, "something left over"},
         {"", false, "nothing"},
     };
-    for (const auto& c : cases) EXPECT_EQ(extras.IsCompound(c.word), c.is_compound) << c.why;
+    for (const auto& c : cases) {
+        EXPECT_EQ(extras.IsCompound(c.word, false), c.is_compound) << c.why;
+        EXPECT_EQ(extras.IsCompound(c.word, true), c.is_compound) << c.why;
+    }
+    EXPECT_TRUE(extras.IsCompound("exporttisch", true));
+    EXPECT_FALSE(extras.IsCompound("exporttisch", false)) << "its first part wants a capital";
     std::string endless;
     while (endless.size() < 100'000) endless += "zimmer";
-    EXPECT_FALSE(extras.IsCompound(endless));
+    EXPECT_FALSE(extras.IsCompound(endless, false));
 }
 
 TEST(PackExtras, MissingListsHoldNothing) {
@@ -79,7 +85,7 @@ TEST(PackExtras, MissingListsHoldNothing) {
     std::vector<Error> unreadable;
     PackExtras extras(temp.Folder(), unreadable);
     EXPECT_FALSE(extras.IsPiece("isn"));
-    EXPECT_FALSE(extras.IsCompound("zimmertisch"));
+    EXPECT_FALSE(extras.IsCompound("zimmertisch", false));
     WriteBytes(temp.Folder() / kPiecesFile, SortedWords::Make({{"isn", 0}}));
     PackExtras with_pieces(temp.Folder(), unreadable);
     EXPECT_TRUE(with_pieces.IsPiece("isn"));

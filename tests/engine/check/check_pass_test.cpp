@@ -1,6 +1,7 @@
 #include "engine/check/check_pass.h"
 
 #include "app/delimiter_flags.h"
+#include "dict/pack_extras.h"
 #include "engine/check/text_checker.h"
 #include "tests/support/dictionaries.h"
 #include "tests/support/fake_services.h"
@@ -120,12 +121,18 @@ TEST_F(CheckPass, OneVeryLongLineIsChecked) {
 /// Word by word through the public look-up.
 TEST_F(CheckPass, OccurrencesAgreeWithLookingUpEveryWord) {
     test::Random random(17);
-    const std::vector<std::wstring> ascii = {L"the", L"cat", L"zat", L"Mine", L"bare", L"a", L"'",
-                                             L"12",  L" ",   L" ",   L".",    L"\n",   L"aa"};
+    const std::vector<std::wstring> ascii = {
+        L"the", L"cat", L"zat", L"Mine", L"bare", L"a",       L"'",       L"12",
+        L" ",   L" ",   L".",   L"\n",   L"aa",   L"Catsat ", L"catsat ", L"THESAT "};
     std::vector<std::wstring> pieces = ascii;
     pieces.insert(pieces.end(), {L"\xE9", L"\x410\x411"});
+    test::WriteBytes(
+        data_.state.LanguageDictFolder / kCompoundsFile,
+        SortedWords::Make(
+            {{"cat", kCompoundCapital}, {"sat", kCompoundEnd}, {"the", kCompoundBegin}}));
     for (int round = 0; round < 500; ++round) {
         const bool is_ascii = round % 2 == 0;
+        data_.settings.Compounds = round / 2 % 2;
         const std::wstring text =
             random.Mix(is_ascii ? ascii : pieces, round % 50 == 0 ? 6000 : 60);
         Words expected;
@@ -151,6 +158,15 @@ TEST_F(CheckPass, OccurrencesAgreeWithLookingUpEveryWord) {
         });
         ASSERT_EQ(got, expected) << "round " << round;
     }
+}
+
+TEST_F(CheckPass, CompoundsOfNounsWantTheirCapital) {
+    test::WriteBytes(data_.state.LanguageDictFolder / kCompoundsFile, "export,32\r\ntisch,8\r\n");
+    data_.settings.Compounds = 1;
+    EXPECT_EQ(
+        Check(L"Exporttisch exporttisch Exporttisch EXPORTTISCH Tischler exporttisch tischler"),
+        (Words{L"exporttisch", L"tischler"}))
+        << "what is unknown either way is listed once";
 }
 
 TEST_F(CheckPass, RememberingWordsOnlyLatelyChangesNoVerdict) {
