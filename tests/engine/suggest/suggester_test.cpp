@@ -1,5 +1,6 @@
 #include "engine/suggest/suggester.h"
 
+#include "dict/pack_extras.h"
 #include "tests/support/dictionaries.h"
 
 #include <gtest/gtest.h>
@@ -44,6 +45,19 @@ TEST_F(SuggesterTest, KeepsTheKindOfApostrophe) {
     data_.settings.StraightApostrophe = 1;
     EXPECT_EQ(Find(L"isnn\x2019t").substr(0, 7), L"[isn\x2019t]");
     EXPECT_EQ(Find(L"isnn't").substr(0, 7), L"[isn't]");
+}
+
+TEST_F(SuggesterTest, NeverOffersPiecesOfWords) {
+    test::WriteBytes(data_.state.LanguageDictFolder / kPiecesFile, "isn,0\r\nisnx,0\r\nthxx,0\r\n");
+    for (const std::uint8_t whole_dictionary : {0, 1}) {
+        data_.settings.WideSearch = whole_dictionary;
+        for (const wchar_t* word : {L"isn", L"issn", L"isnxx", L"thxxx"}) {
+            for (const Suggestion& offered : Suggester(data_.store, data_.settings).Find(word).list)
+                EXPECT_TRUE(offered.word != L"isn" && offered.word != L"isnx" &&
+                            offered.word != L"thxx")
+                    << word;
+        }
+    }
 }
 
 }  // namespace
