@@ -35,6 +35,7 @@ int RunBuildDictionary(const BuildOptionsOfCommand& options) {
     BuildOptions build;
     build.page = &AnsiCodePage::Get(options.code_page);
     if (options.pieces) SetCuts(build);
+    build.any_short_names = options.any_short_names;
     const std::vector<Path> word_lists = Paths(options.word_lists);
     build.hunspell_dictionaries = Paths(options.hunspell_dictionaries);
     build.excluded_lists = Paths(options.excluded);
@@ -46,6 +47,7 @@ int RunBuildDictionary(const BuildOptionsOfCommand& options) {
         return kExitFailed;
     }
     for (const auto& [file, list] : {std::pair(&options.in_use, &build.in_use),
+                                     std::pair(&options.names_in_use, &build.names_in_use),
                                      std::pair(&options.parts_in_use, &build.parts_in_use)}) {
         if (file->empty()) continue;
         Result<UsageList> read = UsageList::Read(PathFromArgument(*file));

@@ -194,6 +194,13 @@ void AddBuildDictionary(CLI::App& app, Options& options) {
             "Words by how often they are used; short names and words that would hide slips "
             "must be among them")
         ->type_name("FILE");
+    build->add_flag("--any-short-names", options.build.any_short_names,
+                    "Take short names whether --in-use has them or not");
+    build
+        ->add_option("--names-in-use", options.build.names_in_use,
+                     "Words by how often they are used; names that would hide slips in common "
+                     "ones must be among them")
+        ->type_name("FILE");
     build
         ->add_option("--parts-in-use", options.build.parts_in_use,
                      "Words by how often they are used; parts of compounds of three letters must "

@@ -79,6 +79,8 @@ struct BuildOptionsOfCommand {
     bool pieces = false;
     bool shipped = false;
     std::string in_use;
+    bool any_short_names = false;
+    std::string names_in_use;
     std::string parts_in_use;
     std::vector<std::string> excluded;
     std::vector<std::string> piece_lists;

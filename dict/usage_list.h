@@ -29,11 +29,16 @@ class UsageList {
     /// mistaken or swapped letter away from one of the 200 most frequent ones.
     bool HidesSlips(std::wstring_view lower_word) const;
 
+    /// Whether a word of any length, unknown to the list, is as close to one of the 2,000 most
+    /// frequent ones.
+    bool IsNearCommon(std::wstring_view lower_word) const;
+
   private:
-    bool IsFrequent(const std::wstring& word) const;
+    bool IsAmongFirst(std::size_t count, const std::wstring& word) const;
+    bool IsOneSlipFromFirst(std::size_t count, std::wstring_view lower_word) const;
 
     std::unordered_map<std::wstring, std::size_t> ranks_;
-    /// The letters of the frequent words.
+    /// The letters of the words that slips are held against.
     std::wstring letters_;
 };
 

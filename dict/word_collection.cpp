@@ -24,6 +24,19 @@ void ForEachPiece(std::wstring_view word, std::wstring_view delimiters, Use&& us
     }
 }
 
+/// Of the parts that apostrophes join the longest; of several as long the last, which an elided
+/// article stands before.
+std::wstring_view LongestPart(std::wstring_view word) {
+    std::wstring_view longest;
+    for (std::size_t start = 0; start <= word.size();) {
+        const std::size_t stop = std::min(word.find(L'\'', start), word.size());
+        const std::wstring_view part = word.substr(start, stop - start);
+        if (part.size() >= longest.size()) longest = part;
+        start = stop + 1;
+    }
+    return longest;
+}
+
 bool Holds(std::wstring_view word, std::wstring_view characters) {
     return word.find_first_of(characters) != std::wstring_view::npos;
 }
@@ -60,23 +73,34 @@ void WordCollection::AddCompoundPart(std::wstring_view part, unsigned roles) {
     if (part.size() < kShortestPart || !PageHolds(part, *rules_.page) || Holds(part, L",\r\n") ||
         Holds(part, rules_.cuts))
         return;
+    const std::wstring lower = Lower(part);
     if (part.size() == kShortestPart && !rules_.parts_in_use.IsEmpty() &&
-        !rules_.parts_in_use.IsCommon(Lower(part)))
+        !rules_.parts_in_use.IsCommon(lower))
         return;
-    parts_[rules_.page->Encode(Lower(part))] |= roles;
+    if ((roles & kCompoundBegin) != 0 && lower.front() != part.front())
+        roles = (roles & ~unsigned{kCompoundBegin}) | kCompoundCapital;
+    parts_[rules_.page->Encode(lower)] |= roles;
 }
 
 void WordCollection::AddWord(const std::wstring& lower, Form form, bool is_name) {
-    const bool is_doubtful = (is_name || form == Form::Part) && lower.size() <= kLongestDoubtful;
-    if (!rules_.in_use.IsEmpty() &&
-        ((is_doubtful && !rules_.in_use.Knows(lower)) || rules_.in_use.HidesSlips(lower)))
-        return;
+    if (IsLeftOut(lower, form, is_name)) return;
     const Result<std::string> line = CheckedEntryLine(lower, *rules_.page);
     if (!line) {
         ++skipped_;
     } else if (excluded_.empty() || !excluded_.contains(*line)) {
         FileOf(*line, lower) += *line;
     }
+}
+
+bool WordCollection::IsLeftOut(const std::wstring& lower, Form form, bool is_name) const {
+    if (is_name && rules_.names_in_use.IsNearCommon(lower)) return true;
+    const UsageList& in_use = rules_.in_use;
+    if (in_use.IsEmpty() || in_use.Knows(lower)) return false;
+    const bool is_doubtful = lower.size() <= kLongestDoubtful &&
+                             (form == Form::Part || (is_name && !rules_.any_short_names));
+    // The list counts what an apostrophe joins apart: "joe" for "joe's".
+    if (is_doubtful && !in_use.Knows(LongestPart(lower))) return true;
+    return in_use.HidesSlips(lower) && lower.find(L'\'') == std::wstring::npos;
 }
 
 std::string& WordCollection::FileOf(std::string_view line, std::wstring_view word) {

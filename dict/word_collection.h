@@ -21,8 +21,13 @@ struct CollectionRules {
     /// Characters that cut words only where letters delimit: the parts go into the list of pieces.
     std::wstring letter_cuts;
     /// With it, names and parts of up to five letters and words that hide slips are taken only when
-    /// people use them.
+    /// people use them. Of what is joined by an apostrophe the longest part decides.
     UsageList in_use;
+    /// Takes short names whether people use them or not.
+    bool any_short_names = false;
+    /// With it, names that are one slip away from a common word are taken only when people use
+    /// them.
+    UsageList names_in_use;
     /// With it, parts of compounds that have but three letters are taken only when they are common.
     UsageList parts_in_use;
 };
@@ -46,7 +51,7 @@ class WordCollection {
     /// `word` trimmed, in its own case.
     void Add(std::wstring_view word, WordSource source);
     void AddPiece(std::wstring_view word);
-    /// A part of compounds with its roles (see CompoundRole).
+    /// A part of compounds, in its own case, with its roles (see CompoundRole).
     void AddCompoundPart(std::wstring_view part, unsigned roles);
 
     /// Words that the page cannot hold, or that hold a comma or a control character.
@@ -60,6 +65,8 @@ class WordCollection {
   private:
     enum class Form { AsWritten, Part };
     void AddWord(const std::wstring& lower, Form form, bool is_name);
+    /// Whether the rules on words in use keep a word out.
+    bool IsLeftOut(const std::wstring& lower, Form form, bool is_name) const;
     std::string& FileOf(std::string_view line, std::wstring_view word);
 
     const CollectionRules& rules_;

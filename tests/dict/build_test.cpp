@@ -112,6 +112,16 @@ TEST(BuildDictionary, LeavesOutWhatWouldHideSlips) {
         << "no rare short word one letter from a common one, no short name that nobody uses";
     EXPECT_NE(ReadBytes(temp / L"out" / "un_.dic"), "") << "a short name in use";
     EXPECT_NE(ReadBytes(temp / L"out" / "zy_.dic"), "") << "rare, and near nothing";
+
+    WriteBytes(list, "Storting\nsortinn\nFoe\nl'a\n");
+    WriteBytes(in_use, "sorting\na\nla\n");
+    options.any_short_names = true;
+    options.in_use = options.names_in_use = *UsageList::Read(in_use);
+    ASSERT_TRUE(BuildDictionary({&list, 1}, temp / L"names", options));
+    EXPECT_EQ(ReadBytes(temp / L"names" / "st_.dic"), "") << "a name near a common word";
+    EXPECT_NE(ReadBytes(temp / L"names" / "so_.dic"), "") << "no name";
+    EXPECT_NE(ReadBytes(temp / L"names" / "fo_.dic"), "") << "a short name, near nothing";
+    EXPECT_NE(ReadBytes(temp / L"names" / "l_.dic"), "") << "what is joined to a short word";
 }
 
 TEST(BuildDictionary, SaysWhichFileFailed) {
