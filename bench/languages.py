@@ -19,7 +19,7 @@ import subprocess
 import sys
 import time
 from pathlib import Path
-from typing import NamedTuple
+from typing import Callable, NamedTuple
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "data" / "recipes"))
@@ -58,8 +58,8 @@ LANGUAGES = [
 ]
 
 
-def unknown_words(command, words):
-    """Those of `words` that a checker prints back; None where it is not installed."""
+def answer(command, words):
+    """What a checker prints about `words`, one a line; None where it is not installed."""
     if not shutil.which(str(command[0])):
         return None
     done = subprocess.run([str(part) for part in command], input="\n".join(words) + "\n", text=True,
@@ -67,7 +67,24 @@ def unknown_words(command, words):
     if done.returncode not in (0, 1):
         print(f"{' '.join(map(str, command))}: {done.stderr.strip()}", file=sys.stderr)
         return None
-    return set(done.stdout.split("\n"))
+    return done.stdout.split("\n")
+
+
+def on_lines(words, lines):
+    """Those of `words` on whose line anything is unknown: FILE:LINE:COLUMN: WORD."""
+    numbers = {int(line.split(":", 2)[1]) for line in lines if line}
+    return {word for number, word in enumerate(words, 1) if number in numbers}
+
+
+def whole_lines(words, lines):
+    """The same of a checker that prints such lines themselves."""
+    return set(words) & set(lines)
+
+
+def with_parts(words, lines):
+    """The same of a checker that prints the unknown words, or what it took for one."""
+    unknown = set(lines)
+    return {word for word in words if not unknown.isdisjoint([word, *word.split("'")])}
 
 
 def slips(words, known):
@@ -91,39 +108,36 @@ def slips(words, known):
 class Checker(NamedTuple):
     name: str
     command: list
-    # Prints words in lower case, whatever case they came in.
-    lowers: bool = False
+    # Which words are unknown by what it prints. Some take a word apart, and name the part.
+    read: Callable
 
     def misses(self, words):
-        """A test whether a word of `words` is flagged, or None."""
-        unknown = unknown_words(self.command, words)
-        if unknown is None:
-            return None
-        return (lambda word: word.lower() in unknown) if self.lowers else (lambda word: word in unknown)
+        """Those of `words` that are flagged, or None."""
+        lines = answer(self.command, words)
+        return None if lines is None else self.read(words, lines)
 
 
 def checkers(language, program):
     data = WORK / f"data-{language.locale}"
     ours = [program, "--data", data, "--locale", language.locale]
-    listing = ["check", "--list", "-"]
-    return [Checker("ours", ours + listing, lowers=True),
-            Checker("ours, --classic", ours + ["--classic"] + listing, lowers=True),
-            Checker("hunspell", ["hunspell", "-i", "utf-8", "-d", language.hunspell, "-l"]),
-            Checker("aspell", ["aspell", "--encoding=utf-8", "-l", language.aspell, "list"])]
+    listing = ["check", "--no-suggestions", "-"]
+    return [Checker("ours", ours + listing, on_lines),
+            Checker("ours, --classic", ours + ["--classic"] + listing, on_lines),
+            Checker("hunspell", ["hunspell", "-i", "utf-8", "-d", language.hunspell, "-L"], whole_lines),
+            Checker("aspell", ["aspell", "--encoding=utf-8", "-l", language.aspell, "list"], with_parts)]
 
 
 def flagged(checker, counts):
     misses = checker.misses(list(counts))
     if misses is None or not counts:
         return ""
-    wrong = [word for word in counts if misses(word)]
-    return (f"{100 * len(wrong) / len(counts):.1f} / "
-            f"{100 * sum(counts[word] for word in wrong) / sum(counts.values()):.2f}")
+    return (f"{100 * len(misses) / len(counts):.1f} / "
+            f"{100 * sum(counts[word] for word in misses) / sum(counts.values()):.2f}")
 
 
 def passed(checker, made):
     misses = checker.misses(made)
-    return "" if misses is None else f"{100 - 100 * sum(map(misses, made)) / len(made):.2f}"
+    return "" if misses is None else f"{100 - 100 * len(misses) / len(made):.2f}"
 
 
 def size_of(program, locale):
@@ -173,9 +187,9 @@ def measure_other(language, program, folder):
     seconds = time.monotonic() - start
     size = sum(file.stat().st_size for file in output.glob("*")) / 1e6
     manual = prose.manual(language.manual)
-    ours = Checker("ours", [program, "--no-install", "--data", data, "--locale", language.locale, "check", "--list", "-"],
-                   lowers=True)
-    theirs = Checker("hunspell", ["hunspell", "-i", "utf-8", "-d", folder / language.hunspell, "-l"])
+    ours = Checker("ours", [program, "--no-install", "--data", data, "--locale", language.locale, "check",
+                            "--no-suggestions", "-"], on_lines)
+    theirs = Checker("hunspell", ["hunspell", "-i", "utf-8", "-d", folder / language.hunspell, "-L"], whole_lines)
     made = slips(manual, set())
     return (language.name, str(language.page), f"{size:.1f}", f"{seconds:.0f}", str(len(manual)), flagged(ours, manual),
             flagged(theirs, manual), passed(ours, made), passed(theirs, made), built.stderr.strip().replace("\n", "; "))

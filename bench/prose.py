@@ -3,6 +3,7 @@ manual (package gnome-user-docs) and the translated manual pages (packages manpa
 made from any of it."""
 
 import gzip
+import html
 import re
 import xml.etree.ElementTree as ElementTree
 from collections import Counter
@@ -10,6 +11,7 @@ from pathlib import Path
 
 HELP = Path("/usr/share/help")
 MANUAL_PAGES = Path("/usr/share/man")
+OFFICE_HELP = Path("/usr/share/libreoffice/help")
 # Elements whose text is no prose, or not translated.
 NO_PROSE = {"code", "cmd", "file", "key", "keyseq", "input", "output", "app", "sys", "screen", "info", "credit",
             "media"}
@@ -52,6 +54,16 @@ def manual_pages(language):
                              lambda escape: {"-": "-", "&": ""}.get(escape[1], " "), line)
 
 
+def office_help(language):
+    """The distinct paragraphs of the office programs' help in a language, without its programming pages."""
+    found = set()
+    for page in sorted((OFFICE_HELP / language / "text").glob("s[!b]*/**/*.html")):
+        text = re.sub(r'(?s)<code.*?</code>|<span class="(?:literal|input)">.*?</span>', " ", page.read_text("utf-8"))
+        for paragraph in re.findall(r'(?s)<(?:p|h\d) id="(?:par|hd)_[^>]*>(.*?)</(?:p|h\d)>', text):
+            found.add(" ".join(html.unescape(re.sub("<[^>]*>", "", paragraph)).split()))
+    return found
+
+
 def words_of(texts):
     """{word as written: how often}, without addresses, single letters and words in capitals."""
     counts = Counter()
@@ -65,3 +77,9 @@ def manual(language):
     """Words of the desktop's manual; paragraphs that are not translated are left out."""
     english = set(paragraphs("C")) if language != "C" else set()
     return words_of(text for text in paragraphs(language) if text not in english)
+
+
+def office(language):
+    """The same of the office programs' help."""
+    english = office_help("en-US") if language != "en-US" else set()
+    return words_of(office_help(language) - english)
