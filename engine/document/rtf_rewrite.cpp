@@ -340,12 +340,17 @@ class Rewriter {
     /// A paragraph has the format in force at its end.
     void FlushParagraph() {
         if (paragraph_.empty()) return;
-        if (!any_paragraph_ || group_.paragraph != written_paragraph_) {
-            Write(group_.paragraph, body_);
-            // Ends the last word; behind a group it would be text.
-            if (body_.back() != '}') body_ += ' ';
+        if (written_format_.empty() || group_.paragraph != written_paragraph_) {
+            std::string format;
+            Write(group_.paragraph, format);
+            // Formats may differ in what is not written of them.
+            if (format != written_format_) {
+                body_ += format;
+                // Ends the last word; behind a group it would be text.
+                if (body_.back() != '}') body_ += ' ';
+                written_format_ = std::move(format);
+            }
             written_paragraph_ = group_.paragraph;
-            any_paragraph_ = true;
         }
         body_ += paragraph_;
         paragraph_.clear();
@@ -373,8 +378,8 @@ class Rewriter {
     /// The same format twice: with the numbers of the document read, and of that written.
     CharacterFormat read_;
     CharacterFormat written_;
-    bool any_paragraph_ = false;
     ParagraphFormat written_paragraph_;
+    std::string written_format_;  // the same as it was written; empty before the first
 };
 
 }  // namespace

@@ -49,6 +49,7 @@ TEST(RtfRewrite, FormatsAreWrittenAsChanges) {
          "\\plain\\f0\\fs24 a"},
         {"numbers", "{\\*\\pn\\pnlvlbody\\pnstart3\\pndec{\\pntxta.}}a",
          "\\pard{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart3\\pndec{\\pntxta .}}\\plain\\f0\\fs24 a"},
+        {"a list without marks is none", " a\\par{\\*\\pn\\pnindent9}b", start + "a\\par\nb"},
         {"numbers out of range", "\\fs99999\\li-99999999 a",
          "\\pard\\li-31680 \\plain\\f0\\fs3276 a"},
         {"numbers beyond 31 bits are no numbers", "\\fs4294967320\\li99999999999999999999 a",
