@@ -81,26 +81,37 @@ Result<void> FileChecker::CheckBlocks(TextToCheck& text, Output& out, ProgressLi
 
 SideBySide::Result FileChecker::CheckBlock(const std::string& name, const Path& folder,
                                            RawBlock& block, BlockOrder::Turn& turn, Output& out) {
-    const std::wstring text = block.Decode(*state_.CodePage);
-    std::vector<AddressBlanker::Range> runs;
-    if (rules_.ignore_webs) runs = AddressBlanker::FindRuns(text);
-    std::wstring blanked;
-    if (!runs.empty()) blanked = text;
-    TextPosition counted;
-    if (places_) counted.Advance(text);
-
-    BlockOrder::State& before = turn.Wait();
-    if (!runs.empty()) before.addresses.BlankRuns(blanked, runs);
-    TextPosition position = before.position;
-    before.position.AdvanceCounted(text, counted);
-    turn.Pass();
-
-    SideBySide::Result result;
-    Begin(name, folder, result);
     if (!block_checker_) block_checker_.emplace(store_, WithoutAddresses(rules_), Remember::Lately);
-    result.found = Report(*block_checker_, runs.empty() ? text : blanked, text, position, out);
+    SideBySide::Result result;
+    if (!places_ && block.IsAscii()) {
+        TakeTurn(block.bytes, turn);
+        turn.Pass();
+        Begin(name, folder, result);
+        result.found = ReportAscii(*block_checker_, block.bytes, out);
+    } else {
+        const std::wstring text = block.Decode(*state_.CodePage);
+        std::wstring blanked = text;
+        TextPosition counted;
+        if (places_) counted.Advance(text);
+        BlockOrder::State& before = TakeTurn(blanked, turn);
+        TextPosition position = before.position;
+        before.position.AdvanceCounted(text, counted);
+        turn.Pass();
+        Begin(name, folder, result);
+        result.found = Report(*block_checker_, blanked, text, position, out);
+    }
     report_.EndPart(out);
     return WithUnreadable(result);
+}
+
+/// Blanks the addresses of a block, whose turn has come then.
+template <class Text>
+BlockOrder::State& FileChecker::TakeTurn(Text& text, BlockOrder::Turn& turn) {
+    std::vector<AddressBlanker::Range> runs;
+    if (rules_.ignore_webs) runs = AddressBlanker::FindRuns(text);
+    BlockOrder::State& before = turn.Wait();
+    if (!runs.empty()) before.addresses.BlankRuns(text, runs);
+    return before;
 }
 
 /// What follows is about this text. A list of its project that cannot be read is an error, but no

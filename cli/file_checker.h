@@ -47,6 +47,8 @@ class FileChecker {
     Result<void> CheckBlocks(TextToCheck& text, Output& out, ProgressLine* progress,
                              SideBySide::Result& result);
     void Begin(const std::string& name, const Path& folder, SideBySide::Result& result);
+    template <class Text>
+    BlockOrder::State& TakeTurn(Text& text, BlockOrder::Turn& turn);
     bool IsIgnored(std::wstring_view word);
     bool Report(TextChecker& checker, std::wstring_view fed, std::wstring_view text,
                 TextPosition& position, Output& out);

@@ -234,6 +234,13 @@ void AddressBlanker::BlankRuns(std::wstring& block, const std::vector<Range>& ru
     }
 }
 
+void AddressBlanker::BlankRuns(std::string& ascii, const std::vector<Range>& runs) {
+    std::wstring wide(ascii.begin(), ascii.end());
+    std::vector<Range> blanked;
+    BlankRuns(wide, runs, &blanked);
+    for (const auto& [offset, length] : blanked) ascii.replace(offset, length, length, ' ');
+}
+
 std::wstring RemoveWebAddresses(std::wstring_view text) {
     std::wstring blanked(text);
     std::vector<AddressBlanker::Range> ranges;

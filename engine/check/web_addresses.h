@@ -43,6 +43,7 @@ class AddressBlanker {
     static std::vector<Range> FindRuns(std::string_view ascii);
     void BlankRuns(std::wstring& block, const std::vector<Range>& runs,
                    std::vector<Range>* ranges = nullptr);
+    void BlankRuns(std::string& ascii, const std::vector<Range>& runs);
 
   private:
     /// By prefix; made when the first address is met.

@@ -38,12 +38,8 @@ void WordScanner::SetEntry(wchar_t c, std::uint16_t entry) {
 
 std::string_view WordScanner::WithoutAddresses(std::string_view ascii,
                                                const std::vector<AddressBlanker::Range>& runs) {
-    blanked_.assign(ascii.begin(), ascii.end());
-    std::vector<AddressBlanker::Range> blanked;
-    addresses_.BlankRuns(blanked_, runs, &blanked);
     blanked_ascii_.assign(ascii);
-    for (const auto& [offset, length] : blanked)
-        blanked_ascii_.replace(offset, length, length, ' ');
+    addresses_.BlankRuns(blanked_ascii_, runs);
     return blanked_ascii_;
 }
 
