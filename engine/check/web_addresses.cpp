@@ -21,11 +21,12 @@ constexpr std::size_t kUnitsAtOnce = 32;
 /// has the processor do side by side.
 template <class Unit>
 bool MayHoldMark(const Unit* units) {
+    const Unit* const before = units - 1;
     Unit holds = 0;
     for (std::size_t i = 0; i < kUnitsAtOnce; ++i) {
         const Unit is_colon = units[i] == ':' ? 1 : 0;
         const Unit is_stop = units[i] == '.' ? 1 : 0;
-        const Unit is_behind_w = units[i - 1] == 'w' ? 1 : 0;
+        const Unit is_behind_w = before[i] == 'w' ? 1 : 0;
         holds = static_cast<Unit>(holds | is_colon | (is_stop & is_behind_w));
     }
     return holds != 0;
