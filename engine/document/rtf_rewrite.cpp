@@ -177,8 +177,10 @@ class Rewriter {
         if (group_.place == Place::Nowhere) return word != "ud";
         if (word == "fonttbl") {
             group_.place = Place::Fonts;
+            tables_changed_ = true;
         } else if (word == "colortbl") {
             group_.place = Place::Colours;
+            tables_changed_ = true;
         } else if (word == "pntxtb" && group_.place == Place::Numbering) {
             group_.place = Place::BeforeNumber;
         } else if (word == "pntxta" && group_.place == Place::Numbering) {
@@ -309,7 +311,7 @@ class Rewriter {
     }
 
     void WriteCharacterFormat() {
-        if (any_written_ && group_.character == read_) return;
+        if (any_written_ && !tables_changed_ && group_.character == read_) return;
         CharacterFormat wanted = group_.character;
         for (const auto property : {CharacterProperty::Foreground, CharacterProperty::Background}) {
             wanted[property] = colours_.Use(wanted[property]);
@@ -328,6 +330,7 @@ class Rewriter {
         written_ = wanted;
         read_ = group_.character;
         any_written_ = true;
+        tables_changed_ = false;
     }
 
     void EndParagraph() {
@@ -375,6 +378,8 @@ class Rewriter {
     std::string paragraph_;  // the one that is being read, without its format
     std::wstring decoded_;
     bool any_written_ = false;
+    /// A table may have given another meaning to numbers since they were written.
+    bool tables_changed_ = false;
     /// The same format twice: with the numbers of the document read, and of that written.
     CharacterFormat read_;
     CharacterFormat written_;

@@ -49,6 +49,8 @@ TEST(RtfRewrite, FormatsAreWrittenAsChanges) {
          "\\plain\\f0\\fs24 a"},
         {"numbers", "{\\*\\pn\\pnlvlbody\\pnstart3\\pndec{\\pntxta.}}a",
          "\\pard{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart3\\pndec{\\pntxta .}}\\plain\\f0\\fs24 a"},
+        {"another font of the same number", " a{\\fonttbl{\\f0\\fcharset2 Wing;}}\\'e9",
+         start + "a\\f1 \\'e9"},
         {"a list without marks is none", " a\\par{\\*\\pn\\pnindent9}b", start + "a\\par\nb"},
         {"numbers out of range", "\\fs99999\\li-99999999 a",
          "\\pard\\li-31680 \\plain\\f0\\fs3276 a"},
