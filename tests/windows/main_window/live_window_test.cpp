@@ -17,7 +17,7 @@ class LiveWindow : public MainWindowTest {
     /// Enough for a check to let messages through several times.
     static std::wstring LongText() {
         std::wstring text;
-        for (int line = 0; text.size() < 1'500'000; ++line) {
+        for (int line = 0; text.size() < 6'000'000; ++line) {
             text += L"the quick brown fox word" + std::to_wstring(line) + L" and the lazy dog\r";
         }
         return text;
