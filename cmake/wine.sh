@@ -45,7 +45,8 @@ set_value() {
 prepare_wine() {
     done_before=$(cat "$WINEPREFIX/wordhawk-managed" 2>/dev/null || true)
     if [ -z "$done_before" ]; then
-        wineboot -i || return 1
+        # Any first program makes the prefix. Asking for that by name (wineboot -i) would leave two copies of
+        # services.exe running: a class that is asked for through one and answered by the other never starts.
         themes='Software\Microsoft\Windows\CurrentVersion\ThemeManager'
         set_value "$themes" DllName REG_EXPAND_SZ 'C:\windows\resources\themes\light\light.msstyles' &&
             set_value "$themes" ThemeActive REG_SZ 1 &&

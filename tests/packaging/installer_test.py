@@ -28,7 +28,7 @@ class InstallerTest(unittest.TestCase):
                                # Nor does a shortcut there belong in the desktop's own menus here.
                                WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=")
         cls.environment.pop("WORDHAWK_DATA", None)
-        cls.wine("wineboot", "-i")
+        cls.wine("cmd", "/c", "exit")
         subprocess.run([ROOT / "packaging/stage.py", "--build", cls.build, "--output", cls.folder,
                         "--locales", LOCALE], check=True)
         cls.files = cls.folder / "files"
