@@ -229,28 +229,18 @@ class Learner {
         pair.candidates.resize(kept);
     }
 
-    Spelling Spell(std::string_view bytes) const {
-        Spelling spelling;
-        spelling.size = static_cast<int>(bytes.size());
-        for (std::size_t i = 0; i < bytes.size(); ++i) {
-            spelling.bytes[i] = bytes[i];
-            spelling.letters[i] = letters_[static_cast<unsigned char>(bytes[i])];
-        }
-        return spelling;
-    }
-
     /// Costs of all candidates; calls `edit(candidate, edit)` for the edits and `trait(candidate,
     /// values)` for the traits of each.
     template <class OnEdit, class OnTraits>
     void Weigh(Model& model, const Pair& pair, std::vector<double>& costs, OnEdit on_edit,
                OnTraits on_traits) {
         EditPath<Model> path(model);
-        const Spelling written = Spell(pair.written);
+        const Spelling written = SpellingOf(pair.written, letters_);
         const WordSounds sounds(written);
         costs.clear();
         for (std::size_t c = 0; c < pair.candidates.size(); ++c) {
             const std::uint32_t word = pair.candidates[c];
-            const Spelling meant = Spell(image_.Word(word));
+            const Spelling meant = SpellingOf(image_.Word(word), letters_);
             double cost = path.Cost(meant, written);
             path.ForEachEdit([&](const Edit& edit) { on_edit(c, edit); });
             TraitValues values = CompareWords(meant, written, sounds);

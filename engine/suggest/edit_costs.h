@@ -3,6 +3,7 @@
 #include "engine/suggest/edit.h"
 #include "engine/suggest/word_traits.h"
 
+#include <bit>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -13,7 +14,7 @@ namespace wordhawk {
 /// probability, negated). A property that is not in a table costs nothing.
 struct LearnedCost {
     EditFeature feature;
-    std::int16_t hundredths;
+    std::int16_t hundredths;  ///< never 0
 };
 
 /// What was learned for a language from pairs of misspelling and word: see bench/learn.
@@ -26,6 +27,11 @@ struct LearnedTable {
 /// that holds for any alphabet.
 const LearnedTable& LearnedTableFor(int locale);
 
+/// Whether the table tells words by how they are read aloud.
+inline bool KnowsSounds(const LearnedTable& table) {
+    return table.traits[static_cast<std::size_t>(Trait::Sound)] > 0;
+}
+
 /// Costs of edits from a table, each computed once. Not to be shared between threads.
 class EditCosts {
   public:
@@ -34,8 +40,10 @@ class EditCosts {
     float Of(const Edit& edit) {
         const std::uint64_t number = edit.Number();
         for (std::size_t i = SlotOf(number);; i = (i + 1) & (slots_.size() - 1)) {
-            if (slots_[i].number == number) return slots_[i].cost;
-            if (slots_[i].number == kFree) return Remember(edit, number);
+            const Slot slot = slots_[i];
+            if (NumberOf(slot) == number)
+                return std::bit_cast<float>(static_cast<std::uint32_t>(slot & kCostMask));
+            if (slot == kFree) return Remember(edit, number);
         }
     }
 
@@ -43,11 +51,13 @@ class EditCosts {
     static constexpr float kLowest = 0.05F;
 
   private:
-    struct Slot {
-        std::uint64_t number = kFree;
-        float cost = 0;
-    };
-    static constexpr std::uint64_t kFree = ~std::uint64_t{0};
+    /// An edit's number above its cost, whose sign is always the same: small, as most of the time
+    /// goes into fetching slots from memory.
+    using Slot = std::uint64_t;
+    static constexpr int kCostBits = 31;
+    static constexpr Slot kCostMask = (Slot{1} << kCostBits) - 1;
+    static constexpr Slot kFree = ~Slot{0};
+    static constexpr std::uint64_t NumberOf(Slot slot) { return slot >> kCostBits; }
     static constexpr std::size_t kMostSlots = std::size_t{1} << 18;
 
     std::size_t SlotOf(std::uint64_t number) const {
@@ -56,7 +66,10 @@ class EditCosts {
     float Remember(const Edit& edit, std::uint64_t number);
     float Compute(const Edit& edit) const;
 
-    std::span<const LearnedCost> table_;
+    std::size_t PlaceOf(EditFeature feature) const;
+
+    /// The table by hash; free places cost 0.
+    std::vector<LearnedCost> learned_;
     std::vector<Slot> slots_;
     std::size_t used_ = 0;
 };

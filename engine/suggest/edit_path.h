@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace wordhawk {
 
@@ -25,6 +26,17 @@ struct Spelling {
     char ByteAt(int i) const { return bytes[static_cast<std::size_t>(i)]; }
 };
 
+/// The first bytes of a word, as many as a Spelling holds, with the letters of its code page.
+inline Spelling SpellingOf(std::string_view word, const std::array<Letter, 256>& letters_of_page) {
+    Spelling spelling;
+    spelling.size = static_cast<int>(std::min(word.size(), Spelling::kLongest));
+    for (std::size_t i = 0; i < static_cast<std::size_t>(spelling.size); ++i) {
+        spelling.bytes[i] = word[i];
+        spelling.letters[i] = letters_of_page[static_cast<unsigned char>(word[i])];
+    }
+    return spelling;
+}
+
 /// Finds the cheapest way of edits from the word that was meant to the word that was written.
 /// `Costs` has `float Of(const Edit&)`, never negative. Only the part between the first and the
 /// last difference, with kSlack letters on both sides, is looked at: what is equal there is meant
@@ -39,8 +51,9 @@ class EditPath {
 
     explicit EditPath(Costs& costs) : costs_(costs) {}
 
-    /// The cost of the way, kNoWay when there is none within the band.
-    float Cost(const Spelling& meant, const Spelling& written) {
+    /// The cost of the way, kNoWay when there is none within the band, and perhaps when it costs
+    /// more than `most`.
+    float Cost(const Spelling& meant, const Spelling& written, float most = kNoWay) {
         meant_ = &meant;
         written_ = &written;
         int equal = 0;
@@ -54,7 +67,7 @@ class EditPath {
         start_ = std::max(0, equal - kSlack);
         rows_ = std::min(meant.size, meant.size - equal_behind + kSlack) - start_;
         columns_ = std::min(written.size, written.size - equal_behind + kSlack) - start_;
-        Fill();
+        if (!Fill(most)) return kNoWay;
         return cells_[static_cast<std::size_t>(rows_)][static_cast<std::size_t>(columns_)].cost;
     }
 
@@ -82,7 +95,7 @@ class EditPath {
     };
     static constexpr Cell kUnreached = {kNoWay, 0, 0, false, EditKind::Mistake};
 
-    void Fill() {
+    bool Fill(float most) {
         const int low = std::min(0, rows_ - columns_) - kBand;
         const int high = std::max(0, rows_ - columns_) + kBand;
         for (int i = 0; i <= rows_; ++i) {
@@ -91,12 +104,21 @@ class EditPath {
             for (int j = first; j <= last; ++j) At(i, j) = kUnreached;
         }
         At(0, 0).cost = 0;
+        // No way misses two rows after each other.
+        float cheapest_before = 0;
         for (int i = 0; i <= rows_; ++i) {
+            float cheapest = kNoWay;
             const int last = std::min(columns_, i - low);
             for (int j = std::max(0, i - high); j <= last; ++j) {
-                if (At(i, j).cost < kNoWay) Leave(i, j);
+                const float cost = At(i, j).cost;
+                if (cost > most || cost == kNoWay) continue;
+                cheapest = std::min(cheapest, cost);
+                Leave(i, j);
             }
+            if (cheapest == kNoWay && cheapest_before == kNoWay) return false;
+            cheapest_before = cheapest;
         }
+        return true;
     }
 
     /// Tries every step out of a cell.

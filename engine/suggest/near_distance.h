@@ -12,7 +12,8 @@ class NearDistance {
   public:
     explicit NearDistance(std::string_view word);
 
-    int To(std::string_view other) const {
+    /// The edits; some number above `most` when they are more than that.
+    int To(std::string_view other, int most = 2 * 64) const {
         if (size_ == 0) return static_cast<int>(other.size());
         // Bit i of a row: what changes from character i of the word to the next.
         std::uint64_t up = ~std::uint64_t{0};
@@ -20,6 +21,7 @@ class NearDistance {
         std::uint64_t diagonal = 0;
         std::uint64_t last_places = 0;
         int distance = size_;
+        int left_over = static_cast<int>(other.size());
         for (const char c : other) {
             const std::uint64_t places = places_[static_cast<unsigned char>(c)];
             const std::uint64_t swapped = ((~diagonal & places) << 1) & last_places;
@@ -28,6 +30,7 @@ class NearDistance {
             std::uint64_t left = diagonal & up;
             distance += (right & last_) != 0;
             distance -= (left & last_) != 0;
+            if (distance - --left_over > most) return distance;
             right = right << 1 | 1;
             left <<= 1;
             up = left | ~(diagonal | right);
