@@ -85,9 +85,10 @@ std::string DroppedBy(std::wstring_view word, const Explanation& is, const Sugge
 std::string DroppedBy(std::wstring_view word, const WideSearch::Account& account) {
     if (word.size() < 2) return "length: a word of one character has no suggestions";
     if (!account.known) return "dictionaries: none of them holds the candidate";
-    if (account.distance > WideSearch::kMostEdits) {
+    const int most = WideSearch::MostEdits(word.size());
+    if (account.distance > most && !account.sounds_alike) {
         return "distance: " + std::to_string(account.distance) + " edits are more than " +
-               std::to_string(WideSearch::kMostEdits);
+               std::to_string(most);
     }
     return {};
 }

@@ -4,6 +4,7 @@
 #include "dict/lines.h"
 #include "dict/phonetic_key.h"
 #include "engine/suggest/word_skeletons.h"
+#include "engine/suggest/word_traits.h"
 
 #include <algorithm>
 #include <charconv>
@@ -43,7 +44,9 @@ Commonness ReadCommonness(const Path& file, const AnsiCodePage& page) {
 class ImageWriter {
   public:
     ImageWriter(const WordImageSources& sources, std::span<const StampedName> files)
-        : page_(*sources.page), commonness_(ReadCommonness(sources.frequencies, page_)) {
+        : page_(*sources.page),
+          by_sound_(sources.by_sound),
+          commonness_(ReadCommonness(sources.frequencies, page_)) {
         header_.magic = word_image::kMagic;
         header_.version = word_image::kVersion;
         header_.code_page = static_cast<std::uint32_t>(page_.Number());
@@ -92,11 +95,13 @@ class ImageWriter {
     std::string Finish() {
         prefix_starts_.push_back(static_cast<std::uint32_t>(values_.size()));
         BuildIndex();
+        BuildSoundIndex();
         commonness_ = Commonness();
         header_.files = static_cast<std::uint32_t>(files_.size());
         header_.words = static_cast<std::uint32_t>(values_.size());
         header_.prefixes = static_cast<std::uint32_t>(prefixes_.size());
         prefixes_ = std::vector<std::uint64_t>();
+        header_.sounds = static_cast<std::uint32_t>(sound_words_.size());
         header_.entries = static_cast<std::uint32_t>(entries_.size());
         header_.text_size = static_cast<std::uint32_t>(text_.size());
         header_.names_size = static_cast<std::uint32_t>(names_.size());
@@ -118,6 +123,8 @@ class ImageWriter {
         move_to(layout.prefix_starts, prefix_starts_);
         move_to(layout.heads, heads_);
         move_to(layout.entries, entries_);
+        move_to(layout.sound_heads, sound_heads_);
+        move_to(layout.sound_words, sound_words_);
         move_to(layout.commonness, values_);
         move_to(layout.text, text_);
         move_to(layout.names, names_);
@@ -163,35 +170,64 @@ class ImageWriter {
         return known == commonness_.end() ? std::uint8_t{0} : known->second;
     }
 
-    /// Lists the prefixes by the buckets of their skeletons: counts, then places them.
+    /// Lists the prefixes by the buckets of their skeletons.
     void BuildIndex() {
         constexpr std::size_t kSkeletonsEach = 20;
         constexpr std::size_t kEntriesEach = 2;
         header_.bucket_bits = static_cast<std::uint32_t>(
             std::bit_width(prefixes_.size() * kSkeletonsEach / kEntriesEach + 1));
-        heads_.assign((std::size_t{1} << header_.bucket_bits) + 1, 0);
         std::array<std::uint32_t, skeletons::kMost> buckets;
-        for (const std::uint64_t prefix : prefixes_) {
-            const std::size_t count = skeletons::BucketsOf(prefix, header_.bucket_bits, buckets);
-            for (std::size_t i = 0; i < count; ++i) ++heads_[buckets[i] + 1];
+        ListByBucket(header_.bucket_bits, prefixes_.size(), heads_, entries_,
+                     [&](std::size_t prefix) {
+                         const std::size_t count =
+                             skeletons::BucketsOf(prefixes_[prefix], header_.bucket_bits, buckets);
+                         return std::span<const std::uint32_t>(buckets.data(), count);
+                     });
+    }
+
+    /// Lists the words by the buckets of their sounds.
+    void BuildSoundIndex() {
+        const std::size_t words = by_sound_ ? values_.size() - header_.pairs : 0;
+        header_.sound_bits = static_cast<std::uint32_t>(std::bit_width(words + 1));
+        const std::array<Letter, 256> letters = letters::OfPage(page_);
+        std::vector<std::uint32_t> buckets(words);
+        for (std::size_t i = 0; i < words; ++i) {
+            const std::string_view word =
+                std::string_view(text_).substr(offsets_[i], offsets_[i + 1] - offsets_[i]);
+            buckets[i] =
+                word_image::SoundBucket(SoundOf(SpellingOf(word, letters)), header_.sound_bits);
         }
-        for (std::size_t i = 1; i < heads_.size(); ++i) heads_[i] += heads_[i - 1];
-        entries_.resize(heads_.back());
+        ListByBucket(header_.sound_bits, words, sound_heads_, sound_words_, [&](std::size_t word) {
+            return std::span<const std::uint32_t>(&buckets[word], 1);
+        });
+    }
+
+    /// Puts the numbers below `count` into `list`, each as often as `buckets_of(number)` says;
+    /// those of a bucket begin at its head. Counts, then places them.
+    template <class BucketsOf>
+    static void ListByBucket(std::uint32_t bits, std::size_t count,
+                             std::vector<std::uint32_t>& heads, std::vector<std::uint32_t>& list,
+                             BucketsOf buckets_of) {
+        heads.assign((std::size_t{1} << bits) + 1, 0);
+        for (std::size_t i = 0; i < count; ++i) {
+            for (const std::uint32_t bucket : buckets_of(i)) ++heads[bucket + 1];
+        }
+        for (std::size_t i = 1; i < heads.size(); ++i) heads[i] += heads[i - 1];
+        list.resize(heads.back());
         // From behind, so that each head ends where its entries begin.
-        for (std::size_t p = prefixes_.size(); p-- > 0;) {
-            const std::size_t count =
-                skeletons::BucketsOf(prefixes_[p], header_.bucket_bits, buckets);
-            for (std::size_t i = 0; i < count; ++i)
-                entries_[--heads_[buckets[i] + 1]] = static_cast<std::uint32_t>(p);
+        for (std::size_t i = count; i-- > 0;) {
+            for (const std::uint32_t bucket : buckets_of(i))
+                list[--heads[bucket + 1]] = static_cast<std::uint32_t>(i);
         }
         // Every head has moved to the start of its own entries, one place too high.
-        std::copy(heads_.begin() + 1, heads_.end(), heads_.begin());
-        heads_.back() = static_cast<std::uint32_t>(entries_.size());
+        std::copy(heads.begin() + 1, heads.end(), heads.begin());
+        heads.back() = static_cast<std::uint32_t>(list.size());
     }
 
     static constexpr int kCountedBits = 22;
 
     const AnsiCodePage& page_;
+    bool by_sound_;
     Commonness commonness_;
     /// By some bits of their hashes, the words that may have a count: of millions of forms few do.
     std::vector<bool> may_be_counted_ = std::vector<bool>(std::size_t{1} << kCountedBits);
@@ -203,6 +239,8 @@ class ImageWriter {
     std::vector<std::uint32_t> prefix_starts_;
     std::vector<std::uint32_t> heads_;
     std::vector<std::uint32_t> entries_;
+    std::vector<std::uint32_t> sound_heads_;
+    std::vector<std::uint32_t> sound_words_;
     std::vector<std::uint8_t> values_;
     std::string text_;
     std::string names_;

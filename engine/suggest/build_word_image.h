@@ -18,6 +18,8 @@ struct WordImageSources {
     /// missing.
     Path frequencies;
     const AnsiCodePage* page = &AnsiCodePage::Get(1252);
+    /// Whether words are to be found by their sound as well.
+    bool by_sound = false;
 };
 
 /// Reads every main dictionary file and makes the image of their words. Files that cannot be read

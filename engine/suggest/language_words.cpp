@@ -1,6 +1,6 @@
 #include "engine/suggest/language_words.h"
 
-#include "engine/suggest/build_word_image.h"
+#include "engine/suggest/edit_costs.h"
 #include "engine/suggest/word_skeletons.h"
 #include "platform/replace_file.h"
 #include "platform/single_writer.h"
@@ -35,6 +35,11 @@ Path LanguageWords::FrequenciesFile() const {
     Path beside = state.LanguageDictFolder / "frequencies.txt";
     // A folder that was filled by an earlier version has none.
     return IsFile(beside) ? beside : state.ShippedFrequencies;
+}
+
+WordImageSources LanguageWords::Sources() const {
+    const LearnedTable& table = LearnedTableFor(NumberOrZero(store_.State().LanguageId));
+    return {folder_, FrequenciesFile(), page_, KnowsSounds(table)};
 }
 
 bool LanguageWords::Refresh(Progress& progress) {
@@ -72,7 +77,7 @@ bool LanguageWords::OpenImage(Progress& progress) {
 
     image_.reset();
     mapped_.reset();
-    in_memory_ = BuildWordImage({folder_, FrequenciesFile(), page_}, progress);
+    in_memory_ = BuildWordImage(Sources(), progress);
     if (in_memory_.empty()) return false;
     const bool written =
         only_maker && ReplaceFileContents(cache, in_memory_, Durability::LeftToTheSystem);
@@ -81,7 +86,7 @@ bool LanguageWords::OpenImage(Progress& progress) {
     if (written) std::string().swap(in_memory_);
     if (!written || !ReadCache()) {
         // Somebody took the file away again.
-        if (written) in_memory_ = BuildWordImage({folder_, FrequenciesFile(), page_}, progress);
+        if (written) in_memory_ = BuildWordImage(Sources(), progress);
         if (in_memory_.empty()) return false;
         image_ = WordImage::Read(in_memory_, page_->Number());
     }

@@ -2,7 +2,7 @@
 
 #include "app/progress.h"
 #include "dict/dictionary_store.h"
-#include "engine/suggest/word_image.h"
+#include "engine/suggest/build_word_image.h"
 #include "platform/file_stamps.h"
 #include "platform/mapped_file.h"
 
@@ -60,6 +60,7 @@ class LanguageWords {
     using Clock = std::chrono::steady_clock;
 
     Path FrequenciesFile() const;
+    WordImageSources Sources() const;
     bool OpenImage(Progress& progress);
     bool ReadCache();
     void Adopt(WordImage image);

@@ -15,13 +15,18 @@ namespace wordhawk {
 namespace {
 
 constexpr int kNear = 2;
-constexpr int kFar = WideSearch::kMostEdits;
+constexpr int kFar = kNear + 1;
 /// Shorter words turn into anything with three edits.
 constexpr std::size_t kShortestFar = 5;
-/// Three edits, at most two of them in the beginning, are tried when the edits to no word cost less
-/// than this; any three when there is none, or they do not cost less than kHopeless.
+/// When the edits to no word cost less than this, words that are more than kNear edits away are
+/// tried as well, at first those with at most kNear edits in the beginning, and words that sound
+/// alike.
 constexpr float kPoor = 4;
-constexpr float kHopeless = 10;
+constexpr std::size_t kShortestBySound = 4;
+
+/// What it costs at most to write a word by its sound, with the vowels and doubled consonants it
+/// has; each of these that is another one costs one more.
+constexpr float kByEar = 10;
 
 constexpr std::size_t kMostSuggestions = 20;
 /// Candidates that cost this much more than the best are not worth reading.
@@ -44,6 +49,24 @@ int ScoreOf(float cost) {
     constexpr float kScale = 24;
     return std::clamp(static_cast<int>(std::lround(100 * std::exp(-cost / kScale))), 1, 99);
 }
+
+/// In a form that a compiler can do for several numbers at once, where std::popcount would have to
+/// be called for each.
+constexpr std::uint8_t CountBits(std::uint32_t bits) {
+    bits -= bits >> 1 & 0x55555555U;
+    bits = (bits & 0x33333333U) + (bits >> 2 & 0x33333333U);
+    bits = (bits + (bits >> 4)) & 0x0F0F0F0FU;
+    bits += bits >> 8;
+    bits += bits >> 16;
+    return bits & 0x3F;
+}
+
+/// A word within reach, before its cost is known.
+struct Near {
+    int distance;
+    float commonness;
+    std::string_view word;
+};
 
 struct Candidate {
     float cost;
@@ -70,15 +93,7 @@ struct WideSearch::Parts {
         return true;
     }
 
-    Spelling Spell(std::string_view bytes) const {
-        Spelling spelling;
-        spelling.size = static_cast<int>(std::min(bytes.size(), Spelling::kLongest));
-        for (std::size_t i = 0; i < static_cast<std::size_t>(spelling.size); ++i) {
-            spelling.bytes[i] = bytes[i];
-            spelling.letters[i] = letters_of[static_cast<unsigned char>(bytes[i])];
-        }
-        return spelling;
-    }
+    Spelling Spell(std::string_view bytes) const { return SpellingOf(bytes, letters_of); }
 
     DictionaryStore& store;
     LanguageWords words;
@@ -106,10 +121,10 @@ class WideSearch::Search {
     Suggestions Run() {
         GatherByBeginning(0, kNear);
         if (bytes_.size() >= kShortestFar) {
-            const bool none = found_.empty() && !holds_itself_;
-            if (cheapest_edits_ >= kPoor && !none) GatherByBeginning(kFar, kFar);
-            if (cheapest_edits_ >= kHopeless || none) GatherFar();
+            if (cheapest_edits_ >= kPoor) GatherByBeginning(kFar, MostEdits(bytes_.size()));
+            if (cheapest_edits_ >= kHopeless) GatherFar(MostEdits(bytes_.size()));
         }
+        if (cheapest_edits_ >= kPoor) GatherBySound();
         GatherPairs();
         return Finish();
     }
@@ -135,7 +150,8 @@ class WideSearch::Search {
         }
         account.distance = distance_.To(word);
         const Spelling meant = parts_.Spell(word);
-        account.edits = parts_.path->Cost(meant, written_);
+        account.sounds_alike = SoundsAlike(meant);
+        account.edits = CostOfEdits(meant, EditPath<EditCosts>::kNoWay);
         account.rarity = Weight(Trait::Rarity) * (kTop - commonness);
         account.traits = TraitCost(meant);
         account.score =
@@ -150,12 +166,16 @@ class WideSearch::Search {
         return lower;
     }
 
+    /// An edit brings at most one group of letters and takes at most one away.
+    std::uint8_t LeastEdits(std::uint32_t groups) const {
+        return std::max(CountBits(groups_ & ~groups), CountBits(groups & ~groups_));
+    }
+
     /// What can be known of a candidate without its bytes.
     bool MayBeWithin(int edits, std::size_t size, std::uint32_t groups) const {
         const auto most = static_cast<std::size_t>(edits);
         return size <= bytes_.size() + most && bytes_.size() <= size + most &&
-               std::popcount(groups_ & ~groups) <= edits &&
-               std::popcount(groups & ~groups_) <= edits;
+               LeastEdits(groups) <= edits;
     }
 
     /// Words whose beginning is at most two edits from this one's.
@@ -173,37 +193,72 @@ class WideSearch::Search {
                                        TryPlace(i, least, most);
                                });
         for (const WordList& list : parts_.words.Lists()) TryList(list, least, most);
+        TakeNearestFirst();
     }
 
-    void GatherFar() {
+    void GatherFar(int most) {
         const std::span<const std::uint32_t> groups = parts_.words.Image().AllGroups();
-        for (std::uint32_t i = 0; i < groups.size(); ++i) {
-            // Turns most words away at the cost of one number each.
-            if (std::popcount(groups_ ^ groups[i]) <= 2 * kFar) TryPlace(i, kFar, kFar);
+        // Turns many words away at the cost of one number each.
+        constexpr std::size_t kBlock = 256;
+        std::array<std::uint8_t, kBlock> differing;
+        for (std::size_t start = 0; start < groups.size(); start += kBlock) {
+            const std::size_t count = std::min(kBlock, groups.size() - start);
+            for (std::size_t i = 0; i < count; ++i) differing[i] = LeastEdits(groups[start + i]);
+            for (std::size_t i = 0; i < count; ++i) {
+                if (differing[i] <= most)
+                    TryPlace(static_cast<std::uint32_t>(start + i), kFar, most);
+            }
         }
-        for (const WordList& list : parts_.words.Lists()) TryList(list, kFar, kFar);
+        for (const WordList& list : parts_.words.Lists()) TryList(list, kFar, most);
+        TakeNearestFirst();
+    }
+
+    /// Words that sound like this one, however they are written.
+    void GatherBySound() {
+        if (bytes_.size() < kShortestBySound || !KnowsSounds(*parts_.table)) return;
+        const WordImage& image = parts_.words.Image();
+        for (const std::uint32_t i : image.PlacesBySound(sounds_.sound)) {
+            if (i < image.WordCount() && !parts_.words.IsOutdated(i))
+                TakeSoundingAlike(image.Word(i), CommonnessOf(i));
+        }
+        for (const WordList& list : parts_.words.Lists()) {
+            for (std::size_t i = 0; i < list.size(); ++i)
+                TakeSoundingAlike(list[i], ListedCommonness(list[i]));
+        }
     }
 
     void TryPlace(std::uint32_t i, int least, int most) {
         const WordImage& image = parts_.words.Image();
         const std::string_view word = image.Word(i);
         if (!MayBeWithin(most, word.size(), image.Groups(i))) return;
-        const int distance = distance_.To(word);
+        const int distance = distance_.To(word, most);
         if (distance > most || distance < least || parts_.words.IsOutdated(i)) return;
         if (image.IsPair(i) && !HoldsPartsOf(word)) return;
-        Take(word, CommonnessOf(i));
+        near_.push_back({distance, CommonnessOf(i), word});
     }
 
     void TryList(const WordList& list, int least, int most) {
         for (std::size_t i = 0; i < list.size(); ++i) {
             const std::string_view word = list[i];
             if (!MayBeWithin(most, word.size(), list.groups[i])) continue;
-            const int distance = distance_.To(word);
+            const int distance = distance_.To(word, most);
             if (distance > most || distance < least) continue;
-            // A word may stand in the image as well, with its count.
-            const auto place = parts_.words.Image().Find(word);
-            Take(word, std::max(kCustomCommonness, place ? CommonnessOf(*place) : 0));
+            near_.push_back({distance, ListedCommonness(word), word});
         }
+    }
+
+    float ListedCommonness(std::string_view word) const {
+        // A word may stand in the image as well, with its count.
+        const auto place = parts_.words.Image().Find(word);
+        return std::max(kCustomCommonness, place ? CommonnessOf(*place) : 0);
+    }
+
+    /// So that most of the others are seen to be too dear before all their edits are weighed.
+    void TakeNearestFirst() {
+        std::sort(near_.begin(), near_.end(),
+                  [](const Near& a, const Near& b) { return a.distance < b.distance; });
+        for (const Near& near : near_) Take(near.word, near.commonness);
+        near_.clear();
     }
 
     void Take(std::string_view word, float commonness) {
@@ -212,13 +267,44 @@ class WideSearch::Search {
             return;
         }
         const Spelling meant = parts_.Spell(word);
-        const float edits = parts_.path->Cost(meant, written_);
-        cheapest_edits_ = std::min(cheapest_edits_, edits);
         const float rarity = Weight(Trait::Rarity) * (kTop - commonness);
-        const float without_traits = edits + rarity;
-        if (without_traits > best_ + kWorthReading) return;
-        found_.push_back({without_traits + TraitCost(meant), std::string(word)});
+        // A dearer way would neither be worth reading nor tell that the word is no poor one.
+        const float most = std::max(best_ + kWorthReading - rarity, cheapest_edits_);
+        const float edits = CostOfEdits(meant, most);
+        cheapest_edits_ = std::min(cheapest_edits_, edits);
+        Keep(word, meant, edits + rarity);
+    }
+
+    void TakeSoundingAlike(std::string_view word, float commonness) {
+        if (word == bytes_) return;
+        const Spelling meant = parts_.Spell(word);
+        if (!SoundsAlike(meant)) return;
+        const float edits = CostOfEdits(meant, EditPath<EditCosts>::kNoWay);
+        Keep(word, meant, edits + Weight(Trait::Rarity) * (kTop - commonness));
+    }
+
+    /// Exact up to `most`.
+    float CostOfEdits(const Spelling& meant, float most) const {
+        const float edits = parts_.path->Cost(meant, written_, most);
+        if (edits <= kByEar || most < kByEar || !SoundsAlike(meant)) return edits;
+        return std::min(edits, CostByEar(meant));
+    }
+
+    void Keep(std::string_view word, const Spelling& meant, float cost_without_traits) {
+        if (cost_without_traits > best_ + kWorthReading) return;
+        found_.push_back({cost_without_traits + TraitCost(meant), std::string(word)});
         best_ = std::min(best_, found_.back().cost);
+    }
+
+    bool SoundsAlike(const Spelling& meant) const {
+        return KnowsSounds(*parts_.table) && bytes_.size() >= kShortestBySound &&
+               SoundOf(meant) == sounds_.sound;
+    }
+
+    float CostByEar(const Spelling& meant) const {
+        const WordSounds sounds(meant);
+        return kByEar + static_cast<float>(NearDistance(sounds_.vowels).To(sounds.vowels) +
+                                           NearDistance(sounds_.consonants).To(sounds.consonants));
     }
 
     /// Two common words with the blank between them left out.
@@ -305,6 +391,7 @@ class WideSearch::Search {
     WordSounds sounds_;
     std::uint32_t groups_;
     NearDistance distance_;
+    std::vector<Near> near_;
     std::vector<Candidate> found_;
     bool holds_itself_ = false;
     float cheapest_edits_ = EditPath<EditCosts>::kNoWay;
@@ -315,6 +402,12 @@ WideSearch::WideSearch(DictionaryStore& store) : parts_(std::make_unique<Parts>(
 WideSearch::~WideSearch() = default;
 
 bool WideSearch::Prepare(Progress& progress) { return parts_->Refresh(progress); }
+
+int WideSearch::MostEdits(std::size_t size) {
+    if (size < kShortestFar) return kNear;
+    // Two in five characters.
+    return std::clamp(static_cast<int>(2 * size / 5), kFar, kMostEdits);
+}
 
 Suggestions WideSearch::Find(std::wstring_view word) {
     if (word.size() < 2 || word.size() > WordImage::kLongestWord) return {};

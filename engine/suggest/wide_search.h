@@ -11,13 +11,19 @@ namespace wordhawk {
 
 /// Suggestions from the whole dictionary, by how likely it is that a writer who means a word writes
 /// what stands there: the cost of the edits between both, and how rare the word is. Candidates are
-/// all words of the main and the active custom dictionaries at most two edits away, three where
-/// these are poor, and pairs of words that were written as one. Words of one letter have none, nor
-/// have those of more than 64.
+/// all words of the main and the active custom dictionaries at most two edits away, and pairs of
+/// words that were written as one; where these are poor, words up to MostEdits away and, in
+/// English, words that sound the same. Words of one letter have none, nor have those of more
+/// than 64.
 class WideSearch {
   public:
-    /// Candidates further away are never suggested.
-    static constexpr int kMostEdits = 3;
+    static constexpr int kMostEdits = 5;
+    /// Candidates that are more edits away from a word of this many characters are only suggested
+    /// when they sound the same; at most kMostEdits.
+    static int MostEdits(std::size_t size);
+    /// Every word up to MostEdits away is weighed when the edits to none of those that are found
+    /// faster cost less than this.
+    static constexpr float kHopeless = 9;
 
     /// The store must outlive the object; its language and custom dictionaries may change.
     explicit WideSearch(DictionaryStore& store);
@@ -40,10 +46,11 @@ class WideSearch {
     struct Account {
         bool known = false;  ///< a dictionary holds the candidate
         int distance = 0;    ///< edits, a swap of neighbours being one
-        float edits = 0;     ///< cost of the edits, in nats
-        float rarity = 0;    ///< cost of the word's rarity
-        float traits = 0;    ///< cost of what differs between the words as wholes
-        int score = 0;       ///< percent
+        bool sounds_alike = false;
+        float edits = 0;   ///< cost of the edits, in nats
+        float rarity = 0;  ///< cost of the word's rarity
+        float traits = 0;  ///< cost of what differs between the words as wholes
+        int score = 0;     ///< percent
     };
     Account Explain(std::wstring_view word, std::wstring_view candidate);
 

@@ -1,5 +1,6 @@
 #include "engine/suggest/word_image.h"
 
+#include "dict/dictionary_file.h"
 #include "engine/suggest/word_skeletons.h"
 
 #include <algorithm>
@@ -22,10 +23,16 @@ Layout::Layout(const WordImage::Header& header) {
     prefix_starts = part(std::uint64_t{header.prefixes} + 1, kNumber);
     heads = part((std::uint64_t{1} << header.bucket_bits) + 1, kNumber);
     entries = part(header.entries, kNumber);
+    sound_heads = part((std::uint64_t{1} << header.sound_bits) + 1, kNumber);
+    sound_words = part(header.sounds, kNumber);
     commonness = part(header.words, 1);
     text = part(header.text_size, 1);
     names = part(header.names_size, 1);
     size = at;
+}
+
+std::uint32_t SoundBucket(std::string_view sound, unsigned bits) {
+    return DictionaryFile::HashBytes(sound) >> (32 - bits);
 }
 
 std::uint64_t Checksum(std::string_view bytes) {
@@ -62,7 +69,8 @@ std::optional<WordImage> WordImage::Read(std::string_view bytes, int code_page) 
     std::memcpy(&header, bytes.data(), sizeof header);
     if (header.magic != word_image::kMagic || header.version != word_image::kVersion ||
         header.code_page != static_cast<std::uint32_t>(code_page) || header.bucket_bits == 0 ||
-        header.bucket_bits > kMostBucketBits)
+        header.bucket_bits > kMostBucketBits || header.sound_bits == 0 ||
+        header.sound_bits > kMostBucketBits)
         return std::nullopt;
     const word_image::Layout layout(header);
     if (layout.size != bytes.size() ||
@@ -80,10 +88,19 @@ std::optional<WordImage> WordImage::Read(std::string_view bytes, int code_page) 
     part(image.prefix_starts_, layout.prefix_starts, std::uint64_t{header.prefixes} + 1);
     part(image.heads_, layout.heads, (std::uint64_t{1} << header.bucket_bits) + 1);
     part(image.entries_, layout.entries, header.entries);
+    part(image.sound_heads_, layout.sound_heads, (std::uint64_t{1} << header.sound_bits) + 1);
+    part(image.sound_words_, layout.sound_words, header.sounds);
     part(image.commonness_, layout.commonness, header.words);
     image.text_ = bytes.substr(layout.text, header.text_size);
     image.names_ = bytes.substr(layout.names, header.names_size);
     return image;
+}
+
+std::span<const WordImage::Number> WordImage::PlacesBySound(std::string_view sound) const {
+    const std::uint32_t bucket = word_image::SoundBucket(sound, header_.sound_bits);
+    const std::uint32_t last = std::min(sound_heads_[bucket + 1], header_.sounds);
+    const std::uint32_t first = std::min(sound_heads_[bucket], last);
+    return sound_words_.subspan(first, last - first);
 }
 
 std::optional<std::uint32_t> WordImage::Find(std::string_view word) const {

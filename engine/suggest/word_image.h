@@ -48,6 +48,8 @@ class WordImage {
         std::uint32_t text_size;
         std::uint32_t names_size;
         std::uint32_t pairs;
+        std::uint32_t sounds;  ///< words listed by sound: all but the pairs, or none
+        std::uint32_t sound_bits;
     };
 
     /// Reads the block; none when it is damaged, cut short, of another version or for another page.
@@ -90,6 +92,9 @@ class WordImage {
             }
         }
     }
+    /// Places of words among which are all that have this sound (see SoundOf); none where the image
+    /// was made without. They may be WordCount() and above when the image was tampered with.
+    std::span<const Number> PlacesBySound(std::string_view sound) const;
     unsigned BucketBits() const { return header_.bucket_bits; }
     std::uint32_t PrefixCount() const { return header_.prefixes; }
 
@@ -103,6 +108,8 @@ class WordImage {
     std::span<const Number> prefix_starts_;
     std::span<const Number> heads_;
     std::span<const Number> entries_;
+    std::span<const Number> sound_heads_;
+    std::span<const Number> sound_words_;
     std::span<const std::uint8_t> commonness_;
     std::string_view text_;
     std::string_view names_;
@@ -112,15 +119,19 @@ namespace word_image {
 
 inline constexpr std::array<char, 8> kMagic = {'W', 'H', 'W', 'O', 'R', 'D', 'S', '\n'};
 /// To be raised whenever the layout, or what is derived, changes.
-inline constexpr std::uint32_t kVersion = 2;
+inline constexpr std::uint32_t kVersion = 3;
 
 /// Where the parts of an image stand.
 struct Layout {
     explicit Layout(const WordImage::Header& header);
 
-    std::uint64_t files, offsets, groups, prefix_starts, heads, entries, commonness, text, names;
+    std::uint64_t files, offsets, groups, prefix_starts, heads, entries, sound_heads, sound_words,
+        commonness, text, names;
     std::uint64_t size;
 };
+
+/// Where the words of a sound begin in the list by sound.
+std::uint32_t SoundBucket(std::string_view sound, unsigned bits);
 
 std::uint64_t Checksum(std::string_view bytes);
 /// What the checksum covers.

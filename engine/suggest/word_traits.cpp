@@ -135,7 +135,9 @@ bool EndsInS(const Spelling& word) { return word.At(word.size - 1) == Of('s'); }
 
 }  // namespace
 
-WordSounds::WordSounds(const Spelling& word) : sound(Reader(word).Sound()) {
+std::string SoundOf(const Spelling& word) { return Reader(word).Sound(); }
+
+WordSounds::WordSounds(const Spelling& word) : sound(SoundOf(word)) {
     for (int i = 0; i < word.size; ++i) {
         const Letter l = word.At(i);
         if (l == letters::kApostrophe || l == letters::kSeparator) continue;

@@ -26,6 +26,10 @@ inline constexpr std::size_t kTraits = 10;
 using TraitWeights = std::array<float, kTraits>;
 using TraitValues = std::array<float, kTraits>;
 
+/// How a word is read aloud by the rules of English: one character a sound, vowels left out but for
+/// a first one.
+std::string SoundOf(const Spelling& word);
+
 /// A word's keys for the comparison.
 struct WordSounds {
     std::string consonants;

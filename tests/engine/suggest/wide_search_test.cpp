@@ -51,7 +51,11 @@ TEST(NearDistance, EqualsTheWholeMatrix) {
     for (int round = 0; round < 4000; ++round) {
         const std::string a = Narrow(random.Word(L"abc", 0, round % 50 == 0 ? 64 : 8));
         const std::string b = Narrow(random.Word(L"abc", 0, 9));
-        EXPECT_EQ(NearDistance(a).To(b), PlainDistance(a, b)) << a << ' ' << b;
+        const int distance = PlainDistance(a, b);
+        EXPECT_EQ(NearDistance(a).To(b), distance) << a << ' ' << b;
+        for (int most = 0; most < 9; ++most)
+            EXPECT_EQ(std::min(NearDistance(a).To(b, most), most + 1),
+                      std::min(distance, most + 1));
     }
 }
 
@@ -118,15 +122,6 @@ float CheapestWay(const Spelling& meant, const Spelling& written, int i, int j) 
 
 TEST(EditPath, FindsTheCheapestWay) {
     const std::array<Letter, 256> letters = letters::OfPage(AnsiCodePage::Get(1252));
-    const auto spell = [&](const std::string& bytes) {
-        Spelling spelling;
-        spelling.size = static_cast<int>(bytes.size());
-        for (std::size_t i = 0; i < bytes.size(); ++i) {
-            spelling.bytes[i] = bytes[i];
-            spelling.letters[i] = letters[static_cast<unsigned char>(bytes[i])];
-        }
-        return spelling;
-    };
     Random random(13);
     OddCosts costs;
     EditPath<OddCosts> path(costs);
@@ -134,13 +129,20 @@ TEST(EditPath, FindsTheCheapestWay) {
         // Another beginning and end, so that nothing is passed over as equal.
         const std::string a = Narrow(L'a' + random.Word(L"abc'", 1, 3) + L'a');
         const std::string b = Narrow(L'b' + random.Word(L"abc'", 1, 3) + L'c');
-        const Spelling meant = spell(a);
-        const Spelling written = spell(b);
+        const Spelling meant = SpellingOf(a, letters);
+        const Spelling written = SpellingOf(b, letters);
         const float cost = path.Cost(meant, written);
         EXPECT_NEAR(cost, CheapestWay(meant, written, 0, 0), 1e-3) << a << ' ' << b;
         float sum = 0;
         path.ForEachEdit([&](const Edit& edit) { sum += costs.Of(edit); });
         EXPECT_NEAR(sum, cost, 1e-3) << a << ' ' << b;
+        for (const float most : {0.5F * cost, cost, 1.2F * cost}) {
+            const float within = path.Cost(meant, written, most);
+            if (most >= cost)
+                EXPECT_EQ(within, cost);
+            else
+                EXPECT_GT(within, most);
+        }
     }
 }
 
@@ -239,26 +241,31 @@ TEST_F(WideSearchTest, EqualsTryingEveryWord) {
     for (int round = 0; round < 30; ++round) {
         const std::wstring word = random.Word(L"abcdeit'", round < 20 ? 2 : 10, 12);
         // By rank: no word two edits away or less that is not listed may cost less than a listed
-        // one; where there is none, no word three edits away.
+        // one; where all words are hopeless, no word as far away as any is suggested from.
         const Suggestions found = search.Find(word);
         suggested += found.list.size();
         std::map<std::wstring, float> costs;
-        std::array<std::vector<float>, WideSearch::kMostEdits + 1> costs_within;
+        std::vector<float> near_costs;
+        std::vector<float> far_costs;
+        float cheapest_edits = WideSearch::kHopeless;
+        const int most_edits = WideSearch::MostEdits(word.size());
         for (const std::wstring& candidate : words) {
             const WideSearch::Account account = search.Explain(word, candidate);
             ASSERT_TRUE(account.known);
             ASSERT_EQ(account.distance, PlainDistance(Narrow(word), Narrow(candidate)));
-            if (account.distance > WideSearch::kMostEdits) continue;
+            if (account.distance > most_edits && !account.sounds_alike) continue;
             const float cost =
                 candidate == word ? -1 : account.edits + account.rarity + account.traits;
             costs[candidate] = cost;
-            for (int edits = account.distance; edits <= WideSearch::kMostEdits; ++edits)
-                costs_within[static_cast<std::size_t>(edits)].push_back(cost);
+            if (account.distance > most_edits) continue;
+            far_costs.push_back(cost);
+            cheapest_edits = std::min(cheapest_edits, account.edits);
+            if (account.distance <= 2) near_costs.push_back(cost);
         }
-        const bool far = costs_within[2].empty() && word.size() >= 5;
-        far_searches += far;
-        const int reach = far ? WideSearch::kMostEdits : 2;
-        std::vector<float>& all = costs_within[static_cast<std::size_t>(reach)];
+        const bool far = cheapest_edits == WideSearch::kHopeless && most_edits > 2;
+        far_searches += far && !far_costs.empty();
+        const int reach = far ? most_edits : 2;
+        std::vector<float>& all = far ? far_costs : near_costs;
         std::sort(all.begin(), all.end());
         std::size_t better = 0;
         float last = -2;
@@ -278,6 +285,30 @@ TEST_F(WideSearchTest, EqualsTryingEveryWord) {
     }
     EXPECT_GT(suggested, 100U);
     EXPECT_GT(far_searches, 2U);
+}
+
+TEST_F(WideSearchTest, FarWordsAreFoundByTheirLettersOrTheirSound) {
+    const std::vector<std::wstring> words = {L"pheasant", L"bureaucracy", L"descendant",
+                                             L"resent",   L"boutique",    L"macaque"};
+    data_.WriteMain(words);
+    WideSearch search(data_.store);
+    const auto suggests = [&](const std::wstring& word, const std::wstring& suggestion) {
+        const std::vector<std::wstring> found = WordsOf(search.Find(word));
+        return std::find(found.begin(), found.end(), suggestion) != found.end();
+    };
+    EXPECT_TRUE(suggests(L"fezent", L"pheasant"));
+    EXPECT_EQ(WordsOf(search.Find(L"beaurocracy")).at(0), L"bureaucracy");
+    EXPECT_EQ(WordsOf(search.Find(L"decendentant")).at(0), L"descendant");
+    EXPECT_TRUE(search.Explain(L"fezent", L"pheasant").sounds_alike);
+    EXPECT_GT(search.Explain(L"fezent", L"pheasant").distance, WideSearch::MostEdits(6));
+    // Where no image lists it by its sound.
+    data_.WriteCustom(L"CUSTOM.DIC", "wallaby,1\r\nkartoosh\r\n");
+    EXPECT_TRUE(suggests(L"curtewche", L"kartoosh"));
+    // The sounds are those of English.
+    data_.state.LanguageId = L"1030";
+    data_.state.LanguageDictFolder = data_.state.DataFolder / "Dictionarys" / "1030" / "";
+    data_.WriteMain(words);
+    EXPECT_FALSE(suggests(L"fezent", L"pheasant"));
 }
 
 TEST_F(WideSearchTest, SettingChoosesTheSearch) {
