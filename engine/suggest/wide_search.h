@@ -23,7 +23,7 @@ class WideSearch {
     static int MostEdits(std::size_t size);
     /// Every word up to MostEdits away is weighed when the edits to none of those that are found
     /// faster cost less than this.
-    static constexpr float kHopeless = 9;
+    static constexpr float kHopeless = 10;
 
     /// The store must outlive the object; its language and custom dictionaries may change.
     explicit WideSearch(DictionaryStore& store);
