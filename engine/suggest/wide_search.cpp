@@ -16,11 +16,8 @@ namespace {
 
 constexpr int kNear = 2;
 constexpr int kFar = kNear + 1;
-/// Shorter words turn into anything with three edits.
-constexpr std::size_t kShortestFar = 5;
-/// When the edits to no word cost less than this, words that are more than kNear edits away are
-/// tried as well, at first those with at most kNear edits in the beginning, and words that sound
-/// alike.
+/// When the edits to no word cost less than this, words more than kNear edits away are tried as well,
+/// at first those with at most kNear edits in the beginning, and words that sound the same.
 constexpr float kPoor = 4;
 constexpr std::size_t kShortestBySound = 4;
 
@@ -36,9 +33,8 @@ constexpr float kWorthReading = 9;
 constexpr float kCustomCommonness = 5;
 /// Commonness of the commonest words.
 constexpr float kTop = 17;
-/// Cost of leaving out the blank between two words.
+/// Costs of leaving out the blank between two words; one letter is joined most often (alot, abit).
 constexpr float kJoin = 7;
-/// The same behind a word of one letter, which is joined most often (alot, abit).
 constexpr float kJoinToLetter = 5;
 /// How much rarer two words in a row are than their product says of one.
 constexpr float kPairRarity = 20;
@@ -48,17 +44,6 @@ constexpr float kCommonPart = 6;
 int ScoreOf(float cost) {
     constexpr float kScale = 24;
     return std::clamp(static_cast<int>(std::lround(100 * std::exp(-cost / kScale))), 1, 99);
-}
-
-/// In a form that a compiler can do for several numbers at once, where std::popcount would have to
-/// be called for each.
-constexpr std::uint8_t CountBits(std::uint32_t bits) {
-    bits -= bits >> 1 & 0x55555555U;
-    bits = (bits & 0x33333333U) + (bits >> 2 & 0x33333333U);
-    bits = (bits + (bits >> 4)) & 0x0F0F0F0FU;
-    bits += bits >> 8;
-    bits += bits >> 16;
-    return bits & 0x3F;
 }
 
 /// A word within reach, before its cost is known.
@@ -120,9 +105,9 @@ class WideSearch::Search {
 
     Suggestions Run() {
         GatherByBeginning(0, kNear);
-        if (bytes_.size() >= kShortestFar) {
-            if (cheapest_edits_ >= kPoor) GatherByBeginning(kFar, MostEdits(bytes_.size()));
-            if (cheapest_edits_ >= kHopeless) GatherFar(MostEdits(bytes_.size()));
+        if (const int most = MostEdits(bytes_.size()); most >= kFar) {
+            if (cheapest_edits_ >= kPoor) GatherByBeginning(kFar, most);
+            if (cheapest_edits_ >= kHopeless) GatherFar(most);
         }
         if (cheapest_edits_ >= kPoor) GatherBySound();
         GatherPairs();
@@ -166,16 +151,11 @@ class WideSearch::Search {
         return lower;
     }
 
-    /// An edit brings at most one group of letters and takes at most one away.
-    std::uint8_t LeastEdits(std::uint32_t groups) const {
-        return std::max(CountBits(groups_ & ~groups), CountBits(groups & ~groups_));
-    }
-
     /// What can be known of a candidate without its bytes.
     bool MayBeWithin(int edits, std::size_t size, std::uint32_t groups) const {
         const auto most = static_cast<std::size_t>(edits);
         return size <= bytes_.size() + most && bytes_.size() <= size + most &&
-               LeastEdits(groups) <= edits;
+               LeastEdits(groups_, groups) <= edits;
     }
 
     /// Words whose beginning is at most two edits from this one's.
@@ -203,7 +183,8 @@ class WideSearch::Search {
         std::array<std::uint8_t, kBlock> differing;
         for (std::size_t start = 0; start < groups.size(); start += kBlock) {
             const std::size_t count = std::min(kBlock, groups.size() - start);
-            for (std::size_t i = 0; i < count; ++i) differing[i] = LeastEdits(groups[start + i]);
+            for (std::size_t i = 0; i < count; ++i)
+                differing[i] = LeastEdits(groups_, groups[start + i]);
             for (std::size_t i = 0; i < count; ++i) {
                 if (differing[i] <= most)
                     TryPlace(static_cast<std::uint32_t>(start + i), kFar, most);
@@ -276,9 +257,8 @@ class WideSearch::Search {
     }
 
     void TakeSoundingAlike(std::string_view word, float commonness) {
-        if (word == bytes_) return;
         const Spelling meant = parts_.Spell(word);
-        if (!SoundsAlike(meant)) return;
+        if (word == bytes_ || !SoundsAlike(meant)) return;
         const float edits = CostOfEdits(meant, EditPath<EditCosts>::kNoWay);
         Keep(word, meant, edits + Weight(Trait::Rarity) * (kTop - commonness));
     }
@@ -325,9 +305,8 @@ class WideSearch::Search {
         const auto place = parts_.words.Image().Find(word);
         if (place && !parts_.words.IsOutdated(*place)) return true;
         for (const WordList& list : parts_.words.Lists()) {
-            for (std::size_t i = 0; i < list.size(); ++i) {
+            for (std::size_t i = 0; i < list.size(); ++i)
                 if (list[i] == word) return true;
-            }
         }
         return false;
     }
@@ -402,12 +381,6 @@ WideSearch::WideSearch(DictionaryStore& store) : parts_(std::make_unique<Parts>(
 WideSearch::~WideSearch() = default;
 
 bool WideSearch::Prepare(Progress& progress) { return parts_->Refresh(progress); }
-
-int WideSearch::MostEdits(std::size_t size) {
-    if (size < kShortestFar) return kNear;
-    // Two in five characters.
-    return std::clamp(static_cast<int>(2 * size / 5), kFar, kMostEdits);
-}
 
 Suggestions WideSearch::Find(std::wstring_view word) {
     if (word.size() < 2 || word.size() > WordImage::kLongestWord) return {};

@@ -4,6 +4,7 @@
 #include "dict/dictionary_store.h"
 #include "engine/suggest/suggestions.h"
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
 
@@ -19,8 +20,11 @@ class WideSearch {
   public:
     static constexpr int kMostEdits = 5;
     /// Candidates that are more edits away from a word of this many characters are only suggested
-    /// when they sound the same; at most kMostEdits.
-    static int MostEdits(std::size_t size);
+    /// when they sound the same: two in five characters. Words of less than five turn into anything
+    /// with three.
+    static constexpr int MostEdits(std::size_t size) {
+        return size < 5 ? 2 : std::clamp(static_cast<int>(2 * size / 5), 3, kMostEdits);
+    }
     /// Every word up to MostEdits away is weighed when the edits to none of those that are found
     /// faster cost less than this.
     static constexpr float kHopeless = 10;

@@ -58,4 +58,21 @@ constexpr std::uint32_t LetterGroups(std::string_view word) {
     return groups;
 }
 
+/// The bits that are set, in a form that a compiler can do for several numbers at once;
+/// std::popcount would be called for each.
+constexpr std::uint8_t CountBits(std::uint32_t bits) {
+    bits -= bits >> 1 & 0x55555555U;
+    bits = (bits & 0x33333333U) + (bits >> 2 & 0x33333333U);
+    bits = (bits + (bits >> 4)) & 0x0F0F0F0FU;
+    bits += bits >> 8;
+    bits += bits >> 16;
+    return bits & 0x3F;
+}
+
+/// Two words of these groups are at least so many edits apart: an edit brings at most one group and
+/// takes at most one away.
+constexpr std::uint8_t LeastEdits(std::uint32_t a, std::uint32_t b) {
+    return std::max(CountBits(a & ~b), CountBits(b & ~a));
+}
+
 }  // namespace wordhawk
