@@ -16,8 +16,8 @@ namespace {
 
 constexpr int kNear = 2;
 constexpr int kFar = kNear + 1;
-/// When the edits to no word cost less than this, words more than kNear edits away are tried as well,
-/// at first those with at most kNear edits in the beginning, and words that sound the same.
+/// When the edits to no word cost less, words more than kNear edits away are tried as well, at
+/// first those with at most kNear edits in the beginning, and words that sound the same.
 constexpr float kPoor = 4;
 constexpr std::size_t kShortestBySound = 4;
 
