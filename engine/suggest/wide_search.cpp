@@ -179,10 +179,9 @@ class WideSearch::Search {
     void GatherFar(int most) {
         const std::span<const std::uint32_t> groups = parts_.words.Image().AllGroups();
         // Turns many words away at the cost of one number each.
-        constexpr std::size_t kBlock = 256;
-        std::array<std::uint8_t, kBlock> differing;
-        for (std::size_t start = 0; start < groups.size(); start += kBlock) {
-            const std::size_t count = std::min(kBlock, groups.size() - start);
+        std::array<std::uint8_t, 256> differing;
+        for (std::size_t start = 0; start < groups.size(); start += differing.size()) {
+            const std::size_t count = std::min(differing.size(), groups.size() - start);
             for (std::size_t i = 0; i < count; ++i)
                 differing[i] = LeastEdits(groups_, groups[start + i]);
             for (std::size_t i = 0; i < count; ++i) {
@@ -200,11 +199,11 @@ class WideSearch::Search {
         const WordImage& image = parts_.words.Image();
         for (const std::uint32_t i : image.PlacesBySound(sounds_.sound)) {
             if (i < image.WordCount() && !parts_.words.IsOutdated(i))
-                TakeSoundingAlike(image.Word(i), CommonnessOf(i));
+                TakeIfAlike(image.Word(i), [&] { return CommonnessOf(i); });
         }
         for (const WordList& list : parts_.words.Lists()) {
             for (std::size_t i = 0; i < list.size(); ++i)
-                TakeSoundingAlike(list[i], ListedCommonness(list[i]));
+                TakeIfAlike(list[i], [&] { return ListedCommonness(list[i]); });
         }
     }
 
@@ -256,11 +255,13 @@ class WideSearch::Search {
         Keep(word, meant, edits + rarity);
     }
 
-    void TakeSoundingAlike(std::string_view word, float commonness) {
+    /// Few of the words given sound alike; the others' commonness is not asked for.
+    template <class CommonnessOfWord>
+    void TakeIfAlike(std::string_view word, CommonnessOfWord commonness) {
         const Spelling meant = parts_.Spell(word);
         if (word == bytes_ || !SoundsAlike(meant)) return;
         const float edits = CostOfEdits(meant, EditPath<EditCosts>::kNoWay);
-        Keep(word, meant, edits + Weight(Trait::Rarity) * (kTop - commonness));
+        Keep(word, meant, edits + Weight(Trait::Rarity) * (kTop - commonness()));
     }
 
     /// Exact up to `most`.
