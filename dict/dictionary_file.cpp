@@ -7,7 +7,6 @@
 #include <array>
 #include <bit>
 #include <cstring>
-#include <functional>
 #include <limits>
 
 namespace wordhawk {
@@ -70,8 +69,33 @@ const char* BehindNextLineFeed(const char* at, const char* end) {
 }
 
 bool HoldsPattern(std::string_view bytes, std::string_view pattern) {
-    const std::boyer_moore_horspool_searcher searcher(pattern.begin(), pattern.end());
-    return std::search(bytes.begin(), bytes.end(), searcher) != bytes.end();
+    if (bytes.size() < pattern.size()) return false;
+    // Two bytes of the pattern are looked for in many places at once, which a compiler does for
+    // several in one step; where both stand, the whole is compared. The words of a file begin
+    // alike, so a late byte and one in the middle tell most.
+    constexpr std::size_t kPlaces = 64;
+    const std::size_t late = pattern.size() >= 2 ? pattern.size() - 2 : 0;
+    const std::size_t middle = pattern.size() / 2;
+    const std::size_t places = bytes.size() - pattern.size() + 1;
+    const auto stands_at = [&](std::size_t place) {
+        return std::memcmp(bytes.data() + place, pattern.data(), pattern.size()) == 0;
+    };
+    std::size_t start = 0;
+    for (; places - start >= kPlaces; start += kPlaces) {
+        const char* const lates = bytes.data() + start + late;
+        const char* const middles = bytes.data() + start + middle;
+        unsigned char both = 0;
+        for (std::size_t i = 0; i < kPlaces; ++i) {
+            both |= static_cast<unsigned char>((lates[i] == pattern[late]) &
+                                               (middles[i] == pattern[middle]));
+        }
+        if (both == 0) continue;
+        for (std::size_t i = 0; i < kPlaces; ++i) {
+            if (lates[i] == pattern[late] && stands_at(start + i)) return true;
+        }
+    }
+    while (start < places && !stands_at(start)) ++start;
+    return start < places;
 }
 
 /// The lookup by its definition, for the words and files that the index does not cover and for the
