@@ -14,6 +14,7 @@ ProgramOptions ToProgramOptions(const GlobalOptions& options) {
     if (!options.data_folder.empty()) program.data_folder = PathFromArgument(options.data_folder);
     program.locale = options.locale;
     program.install_shipped = options.install;
+    program.install_every_language = false;
     for (const wchar_t* const key :
          {L"WideSearch", L"StraightApostrophe", L"Compounds", L"LettersStay"}) {
         if (options.behaviour == Behaviour::Modern) {

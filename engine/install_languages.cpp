@@ -111,27 +111,34 @@ void Install(const Path& source, const FileStamp& shipped_stamp, const Path& tar
     }
 }
 
+/// The name of a language file, the same where it is shipped and where it is installed.
+Path FileOf(int locale) {
+    return PathFromText(std::wstring(kPrefix) + std::to_wstring(locale) + std::wstring(kExtension));
+}
+
+Path TargetOf(const ProgramState& state, int locale) {
+    return state.ResourcesFolder() / std::to_string(locale) / FileOf(locale);
+}
+
 }  // namespace
 
-void InstallShippedLanguages(const ProgramState& state, const Path& shipped, int wanted) {
-    const auto file_of = [](int locale) {
-        return PathFromText(std::wstring(kPrefix) + std::to_wstring(locale) +
-                            std::wstring(kExtension));
-    };
-    const Path resources = state.ResourcesFolder();
-    const auto target_of = [&](int locale) {
-        return resources / std::to_string(locale) / file_of(locale);
-    };
+void InstallShippedLanguages(const ProgramState& state, const Path& shipped) {
     for (const auto& [name, stamp] : StampedFiles(shipped, kExtension)) {
         const std::wstring_view stem(name.data(), name.size() - kExtension.size());
         if (!stem.starts_with(kPrefix)) continue;
         if (const auto locale = WholeNumber(stem.substr(kPrefix.size())))
-            Install(shipped / file_of(*locale), stamp, target_of(*locale));
+            Install(shipped / FileOf(*locale), stamp, TargetOf(state, *locale));
     }
-    const int pack = ShippedPackOf(wanted);
-    if (pack == 0 || pack == wanted) return;
-    const Path source = shipped / file_of(pack);
-    Install(source, StampOf(source), target_of(wanted));
+}
+
+void InstallShippedLanguage(const ProgramState& state, const Path& shipped, int locale) {
+    for (const int source : {locale, ShippedPackOf(locale)}) {
+        const Path file = shipped / FileOf(source);
+        const FileStamp stamp = StampOf(file);
+        if (stamp == FileStamp{}) continue;
+        Install(file, stamp, TargetOf(state, locale));
+        return;
+    }
 }
 
 }  // namespace wordhawk

@@ -71,25 +71,33 @@ modRcLangs::MissingFile Program::LanguageFiles() const {
                                     : modRcLangs::MissingFile::Leave;
 }
 
-void Program::OverrideLanguage() {
+int Program::OverridingLocale() const {
+    int locale = 0;
     for (const auto& [key, value] : options_.setting_overrides) {
-        const int locale = EqualIgnoringCase(key, L"Language") ? NumberOrZero(value) : 0;
-        if (locale <= 0) continue;
-        state.LanguageId = std::to_wstring(locale);
-        modRcLangs::LanguageFileExists(state, state.LanguageId);
-        modRcLangs::SetLanguageFilePath(state);
-        state.LanguageDictFolder =
-            state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId) / "";
+        const int number = EqualIgnoringCase(key, L"Language") ? NumberOrZero(value) : 0;
+        if (number > 0) locale = number;
     }
+    return locale;
+}
+
+void Program::OverrideLanguage() {
+    const int locale = OverridingLocale();
+    if (locale == 0) return;
+    state.LanguageId = std::to_wstring(locale);
+    modRcLangs::LanguageFileExists(state, state.LanguageId);
+    modRcLangs::SetLanguageFilePath(state);
+    state.LanguageDictFolder =
+        state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId) / "";
 }
 
 void Program::InstallLanguages() {
     if (!options_.install_shipped) return;
-    InstallShippedLanguages(state,
-                            options_.shipped_languages.empty()
-                                ? ShippedFolder(ProgramFolder(), "languages")
-                                : options_.shipped_languages,
-                            modRcLangs::WantedLocale(state));
+    const Path shipped = options_.shipped_languages.empty()
+                             ? ShippedFolder(ProgramFolder(), "languages")
+                             : options_.shipped_languages;
+    if (options_.install_every_language) InstallShippedLanguages(state, shipped);
+    InstallShippedLanguage(state, shipped, modRcLangs::WantedLocale(state));
+    if (const int locale = OverridingLocale()) InstallShippedLanguage(state, shipped, locale);
 }
 
 void Program::InstallDictionaries() {

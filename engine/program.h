@@ -25,6 +25,9 @@ struct ProgramOptions {
     /// Copy shipped dictionaries and language files into folders that have none, and generate a
     /// missing language file.
     bool install_shipped = true;
+    /// Of the language files every one, for a window that lets the user choose, or only that of the
+    /// language in force.
+    bool install_every_language = true;
     /// Folder of the shipped dictionaries; empty means "dictionaries" beside the program.
     Path shipped_dictionaries;
     /// Folder of the shipped language files; empty means "languages" beside the program.
@@ -61,6 +64,8 @@ class Program {
 
   private:
     void LoadSettings(const modSect::ProfileReader& file);
+    /// The locale number that an override names; 0 without one.
+    int OverridingLocale() const;
     void OverrideLanguage();
     void InstallLanguages();
     void InstallDictionaries();

@@ -51,6 +51,7 @@ void GenerateLanguageFile(const ProgramState& state, UiServices& ui) {
 
 /// Stores the language in force, unless another program stored one since `chosen` was read.
 void RememberLanguage(const ProgramState& state, std::wstring_view chosen) {
+    if (chosen == state.LanguageId) return;
     const auto store = [&](modSect::Change& change) -> Result<void> {
         if (change.Value(modRegs::kSettingsSection, kLanguageKey, {}) == chosen)
             change.Set(modRegs::kSettingsSection, kLanguageKey, state.LanguageId);
@@ -71,10 +72,12 @@ std::wstring InitLanguage(ProgramState& state, UiServices& ui, MissingFile missi
     state.LanguageId = std::to_wstring(wanted);
     state.LanguageFileBase = FileBase(state.LanguageId);
     SetLanguageFilePath(state);
-    const bool leave = missing == MissingFile::Leave;
-    if (!leave && !IsFile(state.LanguageFile)) GenerateLanguageFile(state, ui);
-
-    if (leave || IsFile(state.LanguageFile)) {
+    bool usable = missing == MissingFile::Leave || IsFile(state.LanguageFile);
+    if (!usable) {
+        GenerateLanguageFile(state, ui);
+        usable = IsFile(state.LanguageFile);
+    }
+    if (usable) {
         MakeFolder(state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId));
     } else {
         // Looked for in the folder of the wished locale, where a translator may have put it.

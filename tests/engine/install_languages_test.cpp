@@ -62,7 +62,7 @@ TEST_P(ShippedLanguage, HoldsEveryTextAndReadsBackAsWritten) {
     const Path shipped = ProgramFolder() / "languages";
     ProgramState state;
     state.DataFolder = folder.Folder();
-    InstallShippedLanguages(state, shipped, 1033);
+    InstallShippedLanguages(state, shipped);
     state.LanguageId = std::to_wstring(GetParam());
     ASSERT_TRUE(modRcLangs::LanguageFileExists(state, state.LanguageId));
     modRcLangs::SetLanguageFilePath(state);
@@ -108,7 +108,10 @@ class InstallLanguages : public testing::Test {
         return state_.ResourcesFolder() / std::to_string(locale) /
                ("lang" + std::to_string(locale) + ".ini");
     }
-    void Install(int wanted = 1031) { InstallShippedLanguages(state_, Shipped(), wanted); }
+    void Install(int locale = 1031) {
+        InstallShippedLanguages(state_, Shipped());
+        InstallShippedLanguage(state_, Shipped(), locale);
+    }
     std::string Text(int id, int locale = 1031) {
         return Shown(modSect::ReadSetting(modLoadRes::kTextSection, std::to_wstring(id), L"none",
                                           Installed(locale)));

@@ -27,7 +27,7 @@ using testing::IsEmpty;
 class DialogInLanguage : public DialogTest, public testing::WithParamInterface<int> {
   protected:
     DialogInLanguage() {
-        InstallShippedLanguages(Running().state, ProgramFolder() / "languages", GetParam());
+        InstallShippedLanguage(Running().state, ProgramFolder() / "languages", GetParam());
         Setting(L"Language", std::to_wstring(GetParam()));
         Restart();
         EXPECT_EQ(Running().state.LanguageId, std::to_wstring(GetParam()));
