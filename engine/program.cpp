@@ -29,19 +29,21 @@ Program::Program(ProgramOptions options, UiServices& services)
     PrepareFolders(state);
     // Whoever made this says so and ends; what follows would go into the current folder.
     if (!state.FoldersReady) return;
-    InstallLanguages();
-    modRcLangs::InitLanguage(state, ui, LanguageFiles());
+    std::optional<modSect::ProfileReader> settings_file(state.SettingsProfile());
+    const std::wstring chosen = modRcLangs::ChosenLanguage(*settings_file);
+    InstallLanguages(chosen);
+    if (modRcLangs::InitLanguage(state, ui, chosen, LanguageFiles()) != chosen)
+        settings_file.emplace(state.SettingsProfile());
     OverrideLanguage();
     InstallDictionaries();
 
-    const modSect::ProfileReader settings_file(state.SettingsProfile());
-    flags.Load(state.SettingsFile, settings_file);
+    flags.Load(state.SettingsFile, *settings_file);
     for (const auto& [index, value] : options_.flag_overrides) flags.Set(index, value);
     UseCodePageOfLanguage();
 
     state.ProgramMode = options_.program_mode;
     state.WindowMode = options_.program_mode;
-    LoadSettings(settings_file);
+    LoadSettings(*settings_file);
 }
 
 void Program::ReloadSettings() { LoadSettings(modSect::ProfileReader(state.SettingsProfile())); }
@@ -90,13 +92,13 @@ void Program::OverrideLanguage() {
         state.DataFolder / "Dictionarys" / PathFromText(state.LanguageId) / "";
 }
 
-void Program::InstallLanguages() {
+void Program::InstallLanguages(std::wstring_view chosen) {
     if (!options_.install_shipped) return;
     const Path shipped = options_.shipped_languages.empty()
                              ? ShippedFolder(ProgramFolder(), "languages")
                              : options_.shipped_languages;
     if (options_.install_every_language) InstallShippedLanguages(state, shipped);
-    InstallShippedLanguage(state, shipped, modRcLangs::WantedLocale(state));
+    InstallShippedLanguage(state, shipped, modRcLangs::WantedLocale(state, chosen));
     if (const int locale = OverridingLocale()) InstallShippedLanguage(state, shipped, locale);
 }
 

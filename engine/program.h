@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -67,7 +68,7 @@ class Program {
     /// The locale number that an override names; 0 without one.
     int OverridingLocale() const;
     void OverrideLanguage();
-    void InstallLanguages();
+    void InstallLanguages(std::wstring_view chosen);
     void InstallDictionaries();
     void UseCodePageOfLanguage();
     modRcLangs::MissingFile LanguageFiles() const;

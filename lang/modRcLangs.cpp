@@ -4,7 +4,6 @@
 #include "lang/modLoadRes.h"
 #include "lang/modRegionLocales.h"
 #include "lang/whole_number.h"
-#include "platform/modSect.h"
 
 namespace wordhawk::modRcLangs {
 namespace {
@@ -22,16 +21,6 @@ std::wstring FileBase(std::wstring_view locale) {
 Path LanguageFilePath(const ProgramState& state, std::wstring_view locale, std::wstring_view base) {
     return state.ResourcesFolder() / PathFromText(locale) /
            PathFromText(std::wstring(base) + L".ini");
-}
-
-std::wstring ChosenLanguage(const ProgramState& state) {
-    return modSect::ReadSetting(modRegs::kSettingsSection, kLanguageKey, {}, state.SettingsFile);
-}
-
-/// The locale number wished for: the user's choice, else the one in force, else English.
-int LocaleFor(const ProgramState& state, std::wstring_view chosen) {
-    if (const auto number = WholeNumber(chosen)) return *number;
-    return WholeNumber(state.LanguageId).value_or(kEnglish);
 }
 
 /// Writes the texts in force as a start for translators. Fails quietly where the folder is missing.
@@ -64,11 +53,23 @@ void RememberLanguage(const ProgramState& state, std::wstring_view chosen) {
 
 }  // namespace
 
-int WantedLocale(const ProgramState& state) { return LocaleFor(state, ChosenLanguage(state)); }
+std::wstring ChosenLanguage(const modSect::ProfileReader& settings) {
+    return settings.ReadSetting(modRegs::kSettingsSection, kLanguageKey, {});
+}
+
+int WantedLocale(const ProgramState& state, std::wstring_view chosen) {
+    if (const auto number = WholeNumber(chosen)) return *number;
+    return WholeNumber(state.LanguageId).value_or(kEnglish);
+}
 
 std::wstring InitLanguage(ProgramState& state, UiServices& ui, MissingFile missing) {
-    const std::wstring chosen = ChosenLanguage(state);
-    const int wanted = LocaleFor(state, chosen);
+    const modSect::ProfileReader settings(state.SettingsProfile());
+    return InitLanguage(state, ui, ChosenLanguage(settings), missing);
+}
+
+std::wstring InitLanguage(ProgramState& state, UiServices& ui, std::wstring_view chosen,
+                          MissingFile missing) {
+    const int wanted = WantedLocale(state, chosen);
     state.LanguageId = std::to_wstring(wanted);
     state.LanguageFileBase = FileBase(state.LanguageId);
     SetLanguageFilePath(state);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/program_state.h"
+#include "platform/modSect.h"
 #include "platform/ui_services.h"
 
 #include <string>
@@ -8,9 +9,12 @@
 
 namespace wordhawk::modRcLangs {
 
-/// The locale number that InitLanguage will try: setting "Language", else `state.LanguageId`, else
+/// Setting "Language".
+std::wstring ChosenLanguage(const modSect::ProfileReader& settings);
+
+/// The locale number that InitLanguage will try: what is chosen, else `state.LanguageId`, else
 /// English.
-int WantedLocale(const ProgramState& state);
+int WantedLocale(const ProgramState& state, std::wstring_view chosen);
 
 /// Whether a language file that is not there is generated from the built-in texts, or left missing:
 /// the language then stays the chosen one, with the built-in texts.
@@ -21,6 +25,10 @@ enum class MissingFile { Generate, Leave };
 /// of `state`, stores the choice and returns the locale number in force.
 std::wstring InitLanguage(ProgramState& state, UiServices& ui,
                           MissingFile missing = MissingFile::Generate);
+
+/// The same where the setting has been read. It is stored only when another one is in force.
+std::wstring InitLanguage(ProgramState& state, UiServices& ui, std::wstring_view chosen,
+                          MissingFile missing);
 
 /// Recomputes `state.LanguageFile` from data folder, LanguageId and LanguageFileBase.
 void SetLanguageFilePath(ProgramState& state);
