@@ -3,6 +3,7 @@
 #include "cli/console.h"
 #include "cli/session.h"
 #include "cli/visible_text.h"
+#include "engine/suggest/image_file.h"
 
 namespace wordhawk {
 namespace {
@@ -44,7 +45,9 @@ FileChecker::FileChecker(const Program& program, const CheckOptions& options,
       suggester_(store_, settings_),
       report_(suggester_, options, colour),
       ignored_(ignored),
-      projects_(*state_.CodePage) {}
+      projects_(*state_.CodePage) {
+    store_.SetMainTableSource(MainTableFromImage);
+}
 
 SideBySide::Result FileChecker::Check(TextToCheck& text, Output& out, ProgressLine* progress) {
     SideBySide::Result result;

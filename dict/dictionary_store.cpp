@@ -33,17 +33,23 @@ bool DictionaryStore::IsWordInDictionaries(std::wstring_view word, Scope scope) 
     std::transform(word.begin(), word.end(), lower_bytes_.begin(),
                    [&page](wchar_t c) { return static_cast<char>(page.ToByte(LowerChar(c))); });
     const wchar_t initial = LowerChar(word[0]);
-    const DictionaryFile* file;
-    if (IsOutsideSingleBytes(initial, page)) {
-        file = &LoadMain(MainPathFor(std::wstring_view(&initial, 1))).file;
-    } else {
-        const auto first = static_cast<unsigned char>(lower_bytes_[0]);
-        file = &MainFileOfBytes(
-            first, lower_bytes_.size() > 1 ? static_cast<unsigned char>(lower_bytes_[1]) : first);
-    }
-    if (file->Contains(lower_bytes_, EntryForms::KeyedOnly)) return true;
+    if (IsInMainFiles(initial)) return true;
     if (IsInPackExtras(lower_bytes_, initial != word[0])) return true;
     return scope == Scope::MainAndCustom && IsInCustomFiles(lower_bytes_);
+}
+
+bool DictionaryStore::IsInMainFiles(wchar_t initial) {
+    const bool outside = IsOutsideSingleBytes(initial, Page());
+    const bool plain = lower_bytes_.find_first_of(",\r\n") == std::string::npos;
+    if (!outside && plain && lower_bytes_.size() > 1)
+        return IsInFileOrTable(lower_bytes_, DictionaryFile::HashBytes(lower_bytes_));
+    const auto first = static_cast<unsigned char>(lower_bytes_[0]);
+    const DictionaryFile& file =
+        outside ? LoadMain(MainPathFor(std::wstring_view(&initial, 1))).file
+                : MainFileOfBytes(first, lower_bytes_.size() > 1
+                                             ? static_cast<unsigned char>(lower_bytes_[1])
+                                             : first);
+    return file.Contains(lower_bytes_, EntryForms::KeyedOnly);
 }
 
 bool DictionaryStore::IsWordInCustomDictionaries(std::wstring_view word) {
@@ -69,8 +75,24 @@ void DictionaryStore::SyncWithState() {
         return;
     for (std::unique_ptr<Row>& row : by_first_bytes_) row.reset();
     extras_.reset();
+    table_.reset();
+    tabled_.reset();
+    opens_before_table_ = kOpensBeforeTable;
     table_page_ = state_.CodePage;
     table_folder_ = state_.LanguageDictFolder.native();
+}
+
+bool DictionaryStore::TakeFromTable(unsigned char first, unsigned char second) {
+    SyncWithState();
+    if (!table_) {
+        if (!table_source_ || opens_before_table_ < 0 || opens_before_table_-- > 0) return false;
+        table_ = table_source_(state_);
+        if (!table_) return false;
+    }
+    const Path path = MainPathOfBytes(first, second);
+    if (main_.contains(path.native()) || !table_->SpeaksFor(path)) return false;
+    tabled_[PairOf(first, second)] = true;
+    return true;
 }
 
 const DictionaryFile& DictionaryStore::OpenMainFileOfBytes(unsigned char first,
@@ -208,6 +230,7 @@ void DictionaryStore::ReloadCustomDictionaries() {
 }
 
 void DictionaryStore::ReloadFile(const Path& path) {
+    tabled_.reset();
     for (const auto& [name, loaded] : main_) {
         if (IsSameFile(loaded->path, path)) *loaded = Read(loaded->path);
     }

@@ -4,9 +4,11 @@
 #include "app/program_state.h"
 #include "dict/dictionary_file.h"
 #include "dict/forbidden_words.h"
+#include "dict/main_table.h"
 #include "dict/pack_extras.h"
 
 #include <array>
+#include <bitset>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,6 +31,11 @@ class DictionaryStore {
     DictionaryStore(ProgramState& state, Settings& settings);
     DictionaryStore(const DictionaryStore&) = delete;
     DictionaryStore& operator=(const DictionaryStore&) = delete;
+
+    /// Whom to ask for a table of the main dictionary's words. It is asked once in a language, when
+    /// a text has needed so many files that a table is the shorter way, and answers for those of
+    /// the others that have not changed.
+    void SetMainTableSource(MainTableSource source) { table_source_ = std::move(source); }
 
     /// Whether the word is in the main dictionary or, unless MainOnly, in a custom one. Pieces of
     /// the main dictionary's words count unless letters and apostrophes stay in their words
@@ -54,12 +61,8 @@ class DictionaryStore {
     /// CR or LF among them. As MainFileOfBytes, but the first words of all are looked for in their
     /// files, which a short text is not worth reading.
     bool IsInMain(std::string_view lower_bytes) {
-        const auto first = static_cast<unsigned char>(lower_bytes[0]);
-        const auto second = static_cast<unsigned char>(lower_bytes[1]);
         if (looks_left_ > 0 && StandsInUnreadFile(lower_bytes)) return true;
-        return MainFileOfBytes(first, second)
-            .ContainsHashed(lower_bytes, DictionaryFile::HashBytes(lower_bytes),
-                            EntryForms::KeyedOnly);
+        return IsInFileOrTable(lower_bytes, DictionaryFile::HashBytes(lower_bytes));
     }
 
     /// The main file that may hold `lower_word`; null when it does not exist on disk.
@@ -108,12 +111,38 @@ class DictionaryStore {
         Loaded content;
     };
     using Row = std::array<const DictionaryFile*, 256>;
+    /// Bringing a table into memory takes about as long as opening so many files.
+    static constexpr int kOpensBeforeTable = 64;
+
+    bool IsInFileOrTable(std::string_view lower_bytes, std::uint32_t hash) {
+        const auto first = static_cast<unsigned char>(lower_bytes[0]);
+        const auto second = static_cast<unsigned char>(lower_bytes[1]);
+        if (IsTabled(first, second)) {
+            if (table_->Holds(lower_bytes, hash)) return true;
+            if (FitsTable(lower_bytes, Page())) return false;
+        }
+        return MainFileOfBytes(first, second)
+            .ContainsHashed(lower_bytes, hash, EntryForms::KeyedOnly);
+    }
+    /// Whether the table answers for the words that begin so; decided at the first of them.
+    bool IsTabled(unsigned char first, unsigned char second) {
+        if (tabled_[PairOf(first, second)]) return true;
+        const Row* const row = by_first_bytes_[first].get();
+        if (row != nullptr && (*row)[second] != nullptr) return false;
+        return TakeFromTable(first, second);
+    }
+    static std::size_t PairOf(unsigned char first, unsigned char second) {
+        return static_cast<std::size_t>(first) << 8 | second;
+    }
+    bool TakeFromTable(unsigned char first, unsigned char second);
 
     const DictionaryFile& OpenMainFileOfBytes(unsigned char first, unsigned char second);
     Path MainPathOfBytes(unsigned char first, unsigned char second) const;
     bool StandsInUnreadFile(std::string_view lower_bytes);
     Loaded Read(Path path);
     Loaded& LoadMain(const Path& path);
+    /// The word in lower_bytes_, whose first character this is.
+    bool IsInMainFiles(wchar_t initial);
     void SyncCustomSet();
     Loaded& LoadCustom(Custom& custom);
     bool IsInCustomFiles(std::string_view lower_bytes);
@@ -128,6 +157,12 @@ class DictionaryStore {
     const AnsiCodePage* table_page_ = nullptr;
     /// How many words may still be looked for in files that are not read.
     int looks_left_ = 64;
+    MainTableSource table_source_;
+    std::optional<MainTable> table_;
+    /// How many files are still to be opened before a table is asked for.
+    int opens_before_table_ = kOpensBeforeTable;
+    /// By the two bytes that words begin with: whether the table answers for them.
+    std::bitset<256 * 256> tabled_;
     /// In the order of the list, for the folder below.
     std::vector<Custom> custom_;
     Path::string_type custom_data_folder_;

@@ -6,6 +6,7 @@
 #include "engine/install.h"
 #include "engine/install_languages.h"
 #include "engine/shipped_dictionaries.h"
+#include "engine/suggest/image_file.h"
 #include "platform/cIsInIDE.h"
 #include "platform/folders.h"
 #include "platform/locale_ids.h"
@@ -17,6 +18,7 @@ namespace wordhawk {
 
 Program::Program(ProgramOptions options, UiServices& services)
     : ui(services), dictionaries(state, settings), options_(std::move(options)) {
+    dictionaries.SetMainTableSource(MainTableFromImage);
     state.InIDE = cIsInIDE().IsInIDE();
     state.DataFolder = options_.data_folder;
     state.LocaleOverride = options_.locale;

@@ -118,7 +118,11 @@ class ImageWriter {
             std::remove_reference_t<decltype(part)>().swap(part);
         };
         move_to(layout.files, files_);
+        move_to(layout.names, names_);
+        std::vector<std::uint32_t> slots = WordTable::SlotsOf(offsets_, text_);
         move_to(layout.offsets, offsets_);
+        move_to(layout.slots, slots);
+        move_to(layout.text, text_);
         move_to(layout.groups, groups_);
         move_to(layout.prefix_starts, prefix_starts_);
         move_to(layout.heads, heads_);
@@ -126,12 +130,9 @@ class ImageWriter {
         move_to(layout.sound_heads, sound_heads_);
         move_to(layout.sound_words, sound_words_);
         move_to(layout.commonness, values_);
-        move_to(layout.text, text_);
-        move_to(layout.names, names_);
         image.resize(layout.size);
         std::memcpy(image.data(), &header_, sizeof header_);
-        header_.checksum = word_image::Checksum(word_image::Checked(image));
-        std::memcpy(image.data(), &header_, sizeof header_);
+        word_image::Seal(image);
         return image;
     }
 
@@ -250,19 +251,11 @@ class ImageWriter {
 
 }  // namespace
 
-bool IsSearchable(std::string_view word, const AnsiCodePage& page) {
-    return !word.empty() && word.size() <= WordImage::kLongestWord &&
-           std::all_of(word.begin(), word.end(), [&page](char c) {
-               const auto byte = static_cast<unsigned char>(c);
-               return page.LowerByte(byte) == byte;
-           });
-}
-
 MainEntryTest::MainEntryTest(std::string_view file_name, const AnsiCodePage& page)
     : file_name_(FromUtf8(file_name)), page_(page) {}
 
 bool MainEntryTest::Passes(std::string_view word) {
-    if (!IsSearchable(word, page_)) return false;
+    if (!FitsTable(word, page_)) return false;
     if (const std::string_view beginning = word.substr(0, 2); beginning != beginning_) {
         beginning_ = beginning;
         // Without regard to case, as some file systems look for names.

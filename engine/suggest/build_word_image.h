@@ -27,12 +27,8 @@ struct WordImageSources {
 /// is empty when the user stopped it.
 std::string BuildWordImage(const WordImageSources& sources, Progress& progress);
 
-/// Whether a look-up can find the word at all (it is in lower case), and it is of a length that an
-/// image holds.
-bool IsSearchable(std::string_view word, const AnsiCodePage& page);
-
-/// Which entries of a main dictionary file a look-up finds: the searchable ones that belong
-/// into the file by their beginning.
+/// Which entries of a main dictionary file a look-up finds: those that fit a table and belong into
+/// the file by their beginning.
 class MainEntryTest {
   public:
     MainEntryTest(std::string_view file_name, const AnsiCodePage& page);

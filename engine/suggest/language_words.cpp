@@ -25,11 +25,6 @@ void WordList::Add(std::string_view word) {
     groups.push_back(LetterGroups(word));
 }
 
-Path LanguageWords::CacheFile() const {
-    return store_.State().DataFolder / "Cache" /
-           PathFromText(store_.State().LanguageId + L".words");
-}
-
 Path LanguageWords::FrequenciesFile() const {
     const ProgramState& state = store_.State();
     Path beside = state.LanguageDictFolder / "frequencies.txt";
@@ -69,7 +64,7 @@ bool LanguageWords::Refresh(Progress& progress) {
 
 bool LanguageWords::OpenImage(Progress& progress) {
     if (ReadCache() && CompareMainFiles()) return true;
-    const Path cache = CacheFile();
+    const Path cache = ImageFileOf(store_.State());
     MakeFolder(cache.parent_path());
     // Only one copy of the program makes it; those that waited find it made.
     const auto only_maker = SingleWriter::Acquire(cache.parent_path());
@@ -97,12 +92,10 @@ bool LanguageWords::OpenImage(Progress& progress) {
 }
 
 bool LanguageWords::ReadCache() {
-    auto mapped = MappedFile::Open(CacheFile());
-    if (!mapped) return false;
-    auto image = WordImage::Read(mapped->Bytes(), page_->Number());
-    if (!image) return false;
-    image_ = std::move(image);
-    mapped_ = std::move(*mapped);
+    auto file = ImageFile::Open(ImageFileOf(store_.State()), page_->Number());
+    if (!file) return false;
+    image_ = std::move(file->image);
+    mapped_ = std::move(file->mapped);
     return true;
 }
 
@@ -179,7 +172,7 @@ void LanguageWords::KeepList(const Path& path, const FileStamp& stamp, bool cust
     const std::string name = ToUtf8(TextFromPath(path.filename()));
     MainEntryTest test(name, *page_);
     ForEachEntry(*bytes, custom, [&](std::string_view word) {
-        if (custom ? IsSearchable(word, *page_) : test.Passes(word)) list.Add(word);
+        if (custom ? FitsTable(word, *page_) : test.Passes(word)) list.Add(word);
     });
 }
 

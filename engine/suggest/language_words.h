@@ -3,8 +3,8 @@
 #include "app/progress.h"
 #include "dict/dictionary_store.h"
 #include "engine/suggest/build_word_image.h"
+#include "engine/suggest/image_file.h"
 #include "platform/file_stamps.h"
-#include "platform/mapped_file.h"
 
 #include <chrono>
 #include <optional>
@@ -53,9 +53,6 @@ class LanguageWords {
     /// The changed main files and the custom dictionaries.
     const std::vector<WordList>& Lists() const { return lists_; }
 
-    /// Where the image of the language in force is kept.
-    Path CacheFile() const;
-
   private:
     using Clock = std::chrono::steady_clock;
 
@@ -76,7 +73,7 @@ class LanguageWords {
     FileStamp folder_stamp_;
     Clock::time_point next_look_{};
 
-    /// What the image stands in.
+    /// Where the image stands in its file, what keeps that; and where it does not, itself.
     std::optional<MappedFile> mapped_;
     std::string in_memory_;
     std::optional<WordImage> image_;

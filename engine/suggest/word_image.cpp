@@ -1,39 +1,12 @@
 #include "engine/suggest/word_image.h"
 
 #include "dict/dictionary_file.h"
-#include "engine/suggest/word_skeletons.h"
 
 #include <algorithm>
 #include <cstring>
 
 namespace wordhawk {
-namespace word_image {
-
-Layout::Layout(const WordImage::Header& header) {
-    std::uint64_t at = sizeof(WordImage::Header);
-    const auto part = [&at](std::uint64_t count, std::uint64_t each) {
-        const std::uint64_t start = at;
-        at += (count * each + 7) / 8 * 8;
-        return start;
-    };
-    constexpr std::uint64_t kNumber = sizeof(WordImage::Number);
-    files = part(header.files, sizeof(WordImage::FileRow));
-    offsets = part(std::uint64_t{header.words} + 1, kNumber);
-    groups = part(header.words, kNumber);
-    prefix_starts = part(std::uint64_t{header.prefixes} + 1, kNumber);
-    heads = part((std::uint64_t{1} << header.bucket_bits) + 1, kNumber);
-    entries = part(header.entries, kNumber);
-    sound_heads = part((std::uint64_t{1} << header.sound_bits) + 1, kNumber);
-    sound_words = part(header.sounds, kNumber);
-    commonness = part(header.words, 1);
-    text = part(header.text_size, 1);
-    names = part(header.names_size, 1);
-    size = at;
-}
-
-std::uint32_t SoundBucket(std::string_view sound, unsigned bits) {
-    return DictionaryFile::HashBytes(sound) >> (32 - bits);
-}
+namespace {
 
 std::uint64_t Checksum(std::string_view bytes) {
     // Four sums side by side, so that no step waits for the one before.
@@ -52,13 +25,59 @@ std::uint64_t Checksum(std::string_view bytes) {
     return mix(mix(mix(sums[0], sums[1]), sums[2]), sums[3]);
 }
 
-std::string_view Checked(std::string_view image) {
-    return image.substr(offsetof(WordImage::Header, checksum) + sizeof(std::uint64_t));
+std::string_view TablePart(std::string_view image, const word_image::Layout& layout) {
+    constexpr std::size_t kStart = offsetof(WordImage::Header, search_checksum);
+    return image.substr(kStart, layout.groups - kStart);
+}
+
+std::string_view SearchPart(std::string_view image, const word_image::Layout& layout) {
+    return image.substr(std::min<std::uint64_t>(layout.groups, image.size()));
+}
+
+}  // namespace
+
+namespace word_image {
+
+Layout::Layout(const WordImage::Header& header) {
+    std::uint64_t at = sizeof(WordImage::Header);
+    const auto part = [&at](std::uint64_t count, std::uint64_t each) {
+        const std::uint64_t start = at;
+        at += (count * each + 7) / 8 * 8;
+        return start;
+    };
+    constexpr std::uint64_t kNumber = sizeof(WordImage::Number);
+    files = part(header.files, sizeof(WordImage::FileRow));
+    names = part(header.names_size, 1);
+    offsets = part(std::uint64_t{header.words} + 1, kNumber);
+    slots = part(std::uint64_t{1} << WordTable::SlotBits(header.words), kNumber);
+    text = part(header.text_size, 1);
+    groups = part(header.words, kNumber);
+    prefix_starts = part(std::uint64_t{header.prefixes} + 1, kNumber);
+    heads = part((std::uint64_t{1} << header.bucket_bits) + 1, kNumber);
+    entries = part(header.entries, kNumber);
+    sound_heads = part((std::uint64_t{1} << header.sound_bits) + 1, kNumber);
+    sound_words = part(header.sounds, kNumber);
+    commonness = part(header.words, 1);
+    size = at;
+}
+
+std::uint32_t SoundBucket(std::string_view sound, unsigned bits) {
+    return DictionaryFile::HashBytes(sound) >> (32 - bits);
+}
+
+void Seal(std::string& image) {
+    WordImage::Header header;
+    std::memcpy(&header, image.data(), sizeof header);
+    const Layout layout(header);
+    header.search_checksum = Checksum(SearchPart(image, layout));
+    std::memcpy(image.data(), &header, sizeof header);
+    header.checksum = Checksum(TablePart(image, layout));
+    std::memcpy(image.data(), &header, sizeof header);
 }
 
 }  // namespace word_image
 
-std::optional<WordImage> WordImage::Read(std::string_view bytes, int code_page) {
+std::optional<WordImage> WordImage::Read(std::string_view bytes, int code_page, Use use) {
     static_assert(std::endian::native == std::endian::little);
     constexpr unsigned kMostBucketBits = 28;
     WordImage image;
@@ -73,8 +92,9 @@ std::optional<WordImage> WordImage::Read(std::string_view bytes, int code_page) 
         header.sound_bits > kMostBucketBits)
         return std::nullopt;
     const word_image::Layout layout(header);
-    if (layout.size != bytes.size() ||
-        header.checksum != word_image::Checksum(word_image::Checked(bytes)))
+    if (layout.size != bytes.size() || header.checksum != Checksum(TablePart(bytes, layout)))
+        return std::nullopt;
+    if (use == Use::Search && header.search_checksum != Checksum(SearchPart(bytes, layout)))
         return std::nullopt;
 
     const auto part = [&]<class Value>(std::span<const Value>& values, std::uint64_t start,
@@ -83,7 +103,11 @@ std::optional<WordImage> WordImage::Read(std::string_view bytes, int code_page) 
                   static_cast<std::size_t>(count)};
     };
     part(image.files_, layout.files, header.files);
-    part(image.offsets_, layout.offsets, std::uint64_t{header.words} + 1);
+    std::span<const Number> offsets;
+    std::span<const Number> slots;
+    part(offsets, layout.offsets, std::uint64_t{header.words} + 1);
+    part(slots, layout.slots, std::uint64_t{1} << WordTable::SlotBits(header.words));
+    image.table_ = WordTable(slots, offsets, bytes.substr(layout.text, header.text_size));
     part(image.groups_, layout.groups, header.words);
     part(image.prefix_starts_, layout.prefix_starts, std::uint64_t{header.prefixes} + 1);
     part(image.heads_, layout.heads, (std::uint64_t{1} << header.bucket_bits) + 1);
@@ -91,7 +115,6 @@ std::optional<WordImage> WordImage::Read(std::string_view bytes, int code_page) 
     part(image.sound_heads_, layout.sound_heads, (std::uint64_t{1} << header.sound_bits) + 1);
     part(image.sound_words_, layout.sound_words, header.sounds);
     part(image.commonness_, layout.commonness, header.words);
-    image.text_ = bytes.substr(layout.text, header.text_size);
     image.names_ = bytes.substr(layout.names, header.names_size);
     return image;
 }
@@ -101,20 +124,6 @@ std::span<const WordImage::Number> WordImage::PlacesBySound(std::string_view sou
     const std::uint32_t last = std::min(sound_heads_[bucket + 1], header_.sounds);
     const std::uint32_t first = std::min(sound_heads_[bucket], last);
     return sound_words_.subspan(first, last - first);
-}
-
-std::optional<std::uint32_t> WordImage::Find(std::string_view word) const {
-    std::array<std::uint32_t, skeletons::kMost> buckets;
-    const std::uint64_t prefix = skeletons::PrefixOf(word);
-    skeletons::BucketsOf(prefix, header_.bucket_bits, buckets);
-    std::optional<std::uint32_t> found;
-    // A word has all its skeletons, so one is enough.
-    ForEachNearRange({buckets.data(), 1}, [&](std::uint32_t, std::uint32_t i, std::uint32_t last) {
-        for (; i < last && !found; ++i) {
-            if (Word(i) == word) found = i;
-        }
-    });
-    return found;
 }
 
 }  // namespace wordhawk

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dict/word_table.h"
 #include "platform/file_stamps.h"
 #include "platform/text.h"
 
@@ -14,8 +15,8 @@
 namespace wordhawk {
 
 /// All words of a language in one block of bytes, as it stands in the cache file: the words of each
-/// dictionary file with how common they are, and an index of their beginnings. It is derived from
-/// the dictionary files, whose stamps it holds; see BuildWordImage. Little-endian.
+/// dictionary file with how common they are, a table of them, and an index of their beginnings. It
+/// is derived from the dictionary files, whose stamps it holds; see BuildWordImage. Little-endian.
 class WordImage {
   public:
     using Number = std::uint32_t;
@@ -23,7 +24,7 @@ class WordImage {
     /// How common a word is, in fifteenths of a nat above the rarest; words without a count have 0.
     static constexpr float kStepsOfCommonness = 15;
     /// Longer words are left out.
-    static constexpr std::size_t kLongestWord = 64;
+    static constexpr std::size_t kLongestWord = kLongestTableWord;
 
     /// One dictionary file, as it was.
     struct FileRow {
@@ -38,7 +39,8 @@ class WordImage {
         std::array<char, 8> magic;
         std::uint32_t version;
         std::uint32_t code_page;
-        std::uint64_t checksum;  ///< of everything behind it
+        std::uint64_t checksum;         ///< of what is behind it, up to the search's parts
+        std::uint64_t search_checksum;  ///< of these
         FileStamp frequencies;
         std::uint32_t files;
         std::uint32_t words;
@@ -52,24 +54,30 @@ class WordImage {
         std::uint32_t sound_bits;
     };
 
-    /// Reads the block; none when it is damaged, cut short, of another version or for another page.
-    /// `bytes` must stay, and begin where a 64-bit number may.
-    static std::optional<WordImage> Read(std::string_view bytes, int code_page);
+    /// What an image is read for: the files and the table of words alone, a quarter of it, or the
+    /// search as well.
+    enum class Use { Table, Search };
+
+    /// Reads the block; none when it is damaged as far as it is used, cut short, of another version
+    /// or for another page. `bytes` must stay, and begin where a 64-bit number may.
+    static std::optional<WordImage> Read(std::string_view bytes, int code_page,
+                                         Use use = Use::Search);
 
     std::uint32_t WordCount() const { return header_.words; }
-    std::string_view Word(std::uint32_t i) const {
-        const std::uint32_t start = std::min(offsets_[i], header_.text_size);
-        const std::uint32_t end = std::min(offsets_[i + 1], header_.text_size);
-        return text_.substr(start, std::min<std::size_t>(end - std::min(start, end), kLongestWord));
-    }
+    std::string_view Word(std::uint32_t i) const { return table_.Word(i); }
     std::uint32_t Groups(std::uint32_t i) const { return groups_[i]; }
     std::span<const Number> AllGroups() const { return groups_; }
     /// Whether it is no word but two with a blank between them that are often written as one. These
     /// stand behind all words; neither of the two need be in a dictionary.
     bool IsPair(std::uint32_t i) const { return i + std::uint64_t{header_.pairs} >= header_.words; }
+    /// All words, the pairs too.
+    const WordTable& Table() const { return table_; }
+    std::uint32_t PairCount() const { return std::min(header_.pairs, header_.words); }
     std::uint8_t Commonness(std::uint32_t i) const { return commonness_[i]; }
     /// The place of a word; none when it is not there.
-    std::optional<std::uint32_t> Find(std::string_view word) const;
+    std::optional<std::uint32_t> Find(std::string_view word) const {
+        return table_.Find(word, DictionaryFile::HashBytes(word));
+    }
 
     const FileStamp& FrequenciesStamp() const { return header_.frequencies; }
     std::span<const FileRow> Files() const { return files_; }
@@ -103,7 +111,7 @@ class WordImage {
 
     Header header_{};
     std::span<const FileRow> files_;
-    std::span<const Number> offsets_;
+    WordTable table_;
     std::span<const Number> groups_;
     std::span<const Number> prefix_starts_;
     std::span<const Number> heads_;
@@ -111,7 +119,6 @@ class WordImage {
     std::span<const Number> sound_heads_;
     std::span<const Number> sound_words_;
     std::span<const std::uint8_t> commonness_;
-    std::string_view text_;
     std::string_view names_;
 };
 
@@ -119,23 +126,24 @@ namespace word_image {
 
 inline constexpr std::array<char, 8> kMagic = {'W', 'H', 'W', 'O', 'R', 'D', 'S', '\n'};
 /// To be raised whenever the layout, or what is derived, changes.
-inline constexpr std::uint32_t kVersion = 3;
+inline constexpr std::uint32_t kVersion = 4;
 
 /// Where the parts of an image stand.
 struct Layout {
     explicit Layout(const WordImage::Header& header);
 
-    std::uint64_t files, offsets, groups, prefix_starts, heads, entries, sound_heads, sound_words,
-        commonness, text, names;
+    std::uint64_t files, names, offsets, slots, text;
+    /// The parts that only the search needs.
+    std::uint64_t groups, prefix_starts, heads, entries, sound_heads, sound_words, commonness;
     std::uint64_t size;
 };
 
 /// Where the words of a sound begin in the list by sound.
 std::uint32_t SoundBucket(std::string_view sound, unsigned bits);
 
-std::uint64_t Checksum(std::string_view bytes);
-/// What the checksum covers.
-std::string_view Checked(std::string_view image);
+/// Writes both checksums, as far as the parts lie within the image. It holds a whole header, with
+/// numbers of bits that an image may have.
+void Seal(std::string& image);
 
 }  // namespace word_image
 }  // namespace wordhawk
