@@ -19,10 +19,18 @@ constexpr int kPausePerLook = 20;
 
 }  // namespace
 
-void WordList::Add(std::string_view word) {
+void WordList::Add(std::string_view word, std::uint32_t sound) {
     text += word;
     offsets.push_back(static_cast<std::uint32_t>(text.size()));
     groups.push_back(LetterGroups(word));
+    sounds.push_back(sound);
+}
+
+bool WordList::Holds(std::string_view word) const {
+    for (std::size_t i = 0; i < size(); ++i) {
+        if ((*this)[i] == word) return true;
+    }
+    return false;
 }
 
 Path LanguageWords::FrequenciesFile() const {
@@ -46,6 +54,7 @@ bool LanguageWords::Refresh(Progress& progress) {
         folder_ = state.LanguageDictFolder;
         data_folder_ = state.DataFolder;
         page_ = state.CodePage;
+        letters_of_page_ = letters::OfPage(*page_);
         lists_.clear();
         main_lists_ = 0;
         image_.reset();
@@ -172,7 +181,8 @@ void LanguageWords::KeepList(const Path& path, const FileStamp& stamp, bool cust
     const std::string name = ToUtf8(TextFromPath(path.filename()));
     MainEntryTest test(name, *page_);
     ForEachEntry(*bytes, custom, [&](std::string_view word) {
-        if (custom ? FitsTable(word, *page_) : test.Passes(word)) list.Add(word);
+        if (custom ? FitsTable(word, *page_) : test.Passes(word))
+            list.Add(word, SoundHash(SoundOf(SpellingOf(word, letters_of_page_))));
     });
 }
 

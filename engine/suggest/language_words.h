@@ -4,8 +4,10 @@
 #include "dict/dictionary_store.h"
 #include "engine/suggest/build_word_image.h"
 #include "engine/suggest/image_file.h"
+#include "engine/suggest/letters.h"
 #include "platform/file_stamps.h"
 
+#include <array>
 #include <chrono>
 #include <optional>
 #include <string>
@@ -21,12 +23,14 @@ struct WordList {
     std::string text;
     std::vector<std::uint32_t> offsets = {0};
     std::vector<std::uint32_t> groups;
+    std::vector<std::uint32_t> sounds;  ///< hashes, see SoundHash
 
     std::size_t size() const { return groups.size(); }
     std::string_view operator[](std::size_t i) const {
         return std::string_view(text).substr(offsets[i], offsets[i + 1] - offsets[i]);
     }
-    void Add(std::string_view word);
+    void Add(std::string_view word, std::uint32_t sound);
+    bool Holds(std::string_view word) const;
 };
 
 /// Every word that a look-up would find on the disk now: the image of the main files, files that
@@ -70,6 +74,7 @@ class LanguageWords {
     Path folder_;
     Path data_folder_;
     const AnsiCodePage* page_ = nullptr;
+    std::array<Letter, 256> letters_of_page_{};
     FileStamp folder_stamp_;
     Clock::time_point next_look_{};
 

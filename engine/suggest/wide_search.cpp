@@ -127,11 +127,9 @@ class WideSearch::Search {
             commonness = CommonnessOf(*place);
         }
         for (const WordList& list : parts_.words.Lists()) {
-            for (std::size_t i = 0; i < list.size(); ++i) {
-                if (list[i] != word) continue;
-                account.known = true;
-                commonness = std::max(commonness, kCustomCommonness);
-            }
+            if (!list.Holds(word)) continue;
+            account.known = true;
+            commonness = std::max(commonness, kCustomCommonness);
         }
         account.distance = distance_.To(word);
         const Spelling meant = parts_.Spell(word);
@@ -201,9 +199,12 @@ class WideSearch::Search {
             if (i < image.WordCount() && !parts_.words.IsOutdated(i))
                 TakeIfAlike(image.Word(i), [&] { return CommonnessOf(i); });
         }
+        const std::uint32_t sound = SoundHash(sounds_.sound);
         for (const WordList& list : parts_.words.Lists()) {
-            for (std::size_t i = 0; i < list.size(); ++i)
-                TakeIfAlike(list[i], [&] { return ListedCommonness(list[i]); });
+            for (std::size_t i = 0; i < list.size(); ++i) {
+                if (list.sounds[i] == sound)
+                    TakeIfAlike(list[i], [&] { return ListedCommonness(list[i]); });
+            }
         }
     }
 
@@ -255,7 +256,7 @@ class WideSearch::Search {
         Keep(word, meant, edits + rarity);
     }
 
-    /// Few of the words given sound alike; the others' commonness is not asked for.
+    /// The commonness of words that do not sound alike is not asked for.
     template <class CommonnessOfWord>
     void TakeIfAlike(std::string_view word, CommonnessOfWord commonness) {
         const Spelling meant = parts_.Spell(word);
@@ -305,11 +306,9 @@ class WideSearch::Search {
     bool Holds(std::string_view word) const {
         const auto place = parts_.words.Image().Find(word);
         if (place && !parts_.words.IsOutdated(*place)) return true;
-        for (const WordList& list : parts_.words.Lists()) {
-            for (std::size_t i = 0; i < list.size(); ++i)
-                if (list[i] == word) return true;
-        }
-        return false;
+        const std::vector<WordList>& lists = parts_.words.Lists();
+        return std::any_of(lists.begin(), lists.end(),
+                           [word](const WordList& list) { return list.Holds(word); });
     }
 
     bool HoldsPartsOf(std::string_view pair) const {

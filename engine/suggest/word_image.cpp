@@ -1,7 +1,5 @@
 #include "engine/suggest/word_image.h"
 
-#include "dict/dictionary_file.h"
-
 #include <algorithm>
 #include <cstring>
 
@@ -59,10 +57,6 @@ Layout::Layout(const WordImage::Header& header) {
     sound_words = part(header.sounds, kNumber);
     commonness = part(header.words, 1);
     size = at;
-}
-
-std::uint32_t SoundBucket(std::string_view sound, unsigned bits) {
-    return DictionaryFile::HashBytes(sound) >> (32 - bits);
 }
 
 void Seal(std::string& image) {

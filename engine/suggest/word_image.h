@@ -122,6 +122,9 @@ class WordImage {
     std::string_view names_;
 };
 
+/// Words that sound the same (see SoundOf) have the same.
+inline std::uint32_t SoundHash(std::string_view sound) { return DictionaryFile::HashBytes(sound); }
+
 namespace word_image {
 
 inline constexpr std::array<char, 8> kMagic = {'W', 'H', 'W', 'O', 'R', 'D', 'S', '\n'};
@@ -139,7 +142,9 @@ struct Layout {
 };
 
 /// Where the words of a sound begin in the list by sound.
-std::uint32_t SoundBucket(std::string_view sound, unsigned bits);
+inline std::uint32_t SoundBucket(std::string_view sound, unsigned bits) {
+    return SoundHash(sound) >> (32 - bits);
+}
 
 /// Writes both checksums, as far as the parts lie within the image. It holds a whole header, with
 /// numbers of bits that an image may have.
