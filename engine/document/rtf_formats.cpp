@@ -95,8 +95,6 @@ constexpr Word<P> kParagraphWords[] = {
 
 constexpr std::string_view kTabKinds[] = {"", "tqr", "tqc", "tqdec"};
 constexpr std::string_view kTabLeaders[] = {"", "tldot", "tlhyph", "tlul", "tlth", "tleq"};
-constexpr std::string_view kNumberKinds[] = {"",        "pnlvlblt", "pndec", "pnlcltr",
-                                             "pnucltr", "pnlcrm",   "pnucrm"};
 
 /// Where `name` stands in `names`; 0, which is none, when it does not.
 int IndexOf(std::string_view name, std::span<const std::string_view> names) {
@@ -139,22 +137,6 @@ void WriteValue(const Word<Property> (&words)[Count], Property property, int val
     }
 }
 
-void Write(const Numbering& numbering, std::string& out) {
-    if (numbering.kind == 1) {
-        out += "{\\pntext\\'b7\\tab}{\\*\\pn\\pnlvlblt";
-        WriteWord("pnindent", numbering.indent, out);
-        out += "{\\pntxtb\\'b7}}";
-        return;
-    }
-    out += "{\\*\\pn\\pnlvlbody";
-    WriteWord("pnindent", numbering.indent, out);
-    WriteWord("pnstart", numbering.start, out);
-    out.append("\\").append(kNumberKinds[numbering.kind]);
-    if (numbering.before != 0) out.append("{\\pntxtb ").append(1, numbering.before).append("}");
-    if (numbering.after != 0) out.append("{\\pntxta ").append(1, numbering.after).append("}");
-    out += '}';
-}
-
 }  // namespace
 
 CharacterFormat::CharacterFormat() : values{} {
@@ -192,19 +174,6 @@ bool Apply(const RtfToken& word, ParagraphFormat& format) {
     return true;
 }
 
-bool Apply(const RtfToken& word, Numbering& numbering) {
-    if (const int kind = IndexOf(word.text, kNumberKinds)) {
-        numbering.kind = kind;
-    } else if (word.text == "pnstart") {
-        numbering.start = std::clamp(word.number, 0, 32767);
-    } else if (word.text == "pnindent") {
-        numbering.indent = std::clamp(word.number, 0, kWidest);
-    } else {
-        return false;
-    }
-    return true;
-}
-
 void WriteWord(std::string_view word, int number, std::string& out) {
     char digits[12];
     const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
@@ -222,7 +191,6 @@ void WriteChange(const CharacterFormat& from, const CharacterFormat& to, std::st
 
 void Write(const ParagraphFormat& format, std::string& out) {
     out += "\\pard";
-    if (format.numbering.kind != 0) Write(format.numbering, out);
     const ParagraphFormat none;
     for (int i = 0; i < static_cast<int>(P::Count); ++i) {
         const auto property = static_cast<P>(i);

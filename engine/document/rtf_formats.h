@@ -67,16 +67,6 @@ struct TabStop {
     bool operator==(const TabStop&) const = default;
 };
 
-/// How the items of a list are marked: 0 not at all, 1 by a bullet, above that by numbers.
-struct Numbering {
-    int kind = 0;
-    int start = 1;
-    int indent = 0;  // twips
-    char before = 0;
-    char after = 0;
-    bool operator==(const Numbering&) const = default;
-};
-
 struct ParagraphFormat {
     int& operator[](ParagraphProperty property) { return values[static_cast<int>(property)]; }
     int operator[](ParagraphProperty property) const { return values[static_cast<int>(property)]; }
@@ -85,14 +75,12 @@ struct ParagraphFormat {
     std::array<int, static_cast<int>(ParagraphProperty::Count)> values{};
     std::vector<TabStop> tabs;
     TabStop next_tab;
-    Numbering numbering;
 };
 
 /// Applies a control word to a format; numbers are brought into their range, and one beyond 31 bits
 /// makes the word void. False when the word is none of the format's.
 bool Apply(const RtfToken& word, CharacterFormat& format);
 bool Apply(const RtfToken& word, ParagraphFormat& format);
-bool Apply(const RtfToken& word, Numbering& numbering);
 
 /// Appends what leads from one format to the other. Fonts and colours must be numbers of the
 /// document that is written, with 0 for what is -1 where it is read.

@@ -52,8 +52,8 @@ bool IsUnfit(wchar_t c) {
 
 class Rewriter {
   public:
-    Rewriter(std::string_view rtf, std::wstring_view default_face, RtfLists lists)
-        : lexer_(rtf), lists_(lists), fonts_(default_face) {
+    Rewriter(std::string_view rtf, std::wstring_view default_face)
+        : lexer_(rtf), fonts_(default_face) {
         body_.reserve(rtf.size());
     }
 
@@ -70,7 +70,7 @@ class Rewriter {
     }
 
   private:
-    enum class Place { Body, Fonts, Colours, Numbering, BeforeNumber, AfterNumber, Nowhere };
+    enum class Place { Body, Fonts, Colours, Nowhere };
 
     /// What a group inherits from the one around it and forgets at its end.
     struct Group {
@@ -113,17 +113,8 @@ class Rewriter {
         }
         finished_ = outer_.size() <= 1;
         if (finished_) return;
-        // A list's marks are told in a group of their own, but belong to the paragraph around it.
-        if (IsNumbering(group_.place)) {
-            outer_.back().paragraph.numbering = group_.paragraph.numbering;
-        }
         group_ = std::move(outer_.back());
         outer_.pop_back();
-    }
-
-    static bool IsNumbering(Place place) {
-        return place == Place::Numbering || place == Place::BeforeNumber ||
-               place == Place::AfterNumber;
     }
 
     void Symbol(char symbol) {
@@ -151,7 +142,6 @@ class Rewriter {
         switch (group_.place) {
             case Place::Fonts: fonts_.Take(word); break;
             case Place::Colours: colours_.Take(word); break;
-            case Place::Numbering: Apply(word, group_.paragraph.numbering); break;
             case Place::Body: Format(word); break;
             default: break;
         }
@@ -160,10 +150,7 @@ class Rewriter {
 
     /// A destination that readers who do not know it are to pass over.
     bool Starred(std::string_view word) {
-        if (word == "pn" && group_.place == Place::Body && lists_ == RtfLists::Kept) {
-            group_.place = Place::Numbering;
-            group_.paragraph.numbering = {};
-        } else if (word == "ud" && group_.either_form) {
+        if (word == "ud" && group_.either_form) {
             group_.place = Place::Body;
             group_.either_form = false;
         } else {
@@ -181,14 +168,10 @@ class Rewriter {
         } else if (word == "colortbl") {
             group_.place = Place::Colours;
             tables_changed_ = true;
-        } else if (word == "pntxtb" && group_.place == Place::Numbering) {
-            group_.place = Place::BeforeNumber;
-        } else if (word == "pntxta" && group_.place == Place::Numbering) {
-            group_.place = Place::AfterNumber;
         } else if (word == "upr") {
             group_.either_form = group_.place == Place::Body;
             group_.place = Place::Nowhere;
-        } else if (word == "pntext" && lists_ == RtfLists::AsText) {
+        } else if (word == "pntext") {
             dropped_ = true;
         } else if (IsTextlessDestination(word) || IsLeftOut(word)) {
             group_.place = Place::Nowhere;
@@ -280,8 +263,6 @@ class Rewriter {
         switch (group_.place) {
             case Place::Body: break;
             case Place::Fonts: return fonts_.TakeText(text);
-            case Place::BeforeNumber: return NumberText(text, group_.paragraph.numbering.before);
-            case Place::AfterNumber: return NumberText(text, group_.paragraph.numbering.after);
             default: return;
         }
         if (group_.deleted) return;
@@ -294,12 +275,6 @@ class Rewriter {
             }
             if (unfit != text.end() && *unfit == L'\t') Control("\\tab ");
             text.remove_prefix(std::min(fit + 1, text.size()));
-        }
-    }
-
-    static void NumberText(std::wstring_view text, char& mark) {
-        for (const wchar_t c : text) {
-            if (c == L'.' || c == L')' || c == L'(' || c == L'-') mark = static_cast<char>(c);
         }
     }
 
@@ -360,7 +335,6 @@ class Rewriter {
     }
 
     RtfLexer lexer_;
-    RtfLists lists_;
     RtfFonts fonts_;
     RtfColours colours_;
     int document_page_ = 1252;
@@ -389,8 +363,8 @@ class Rewriter {
 
 }  // namespace
 
-RewrittenRtf RewriteRtf(std::string_view rtf, std::wstring_view default_face, RtfLists lists) {
-    return Rewriter(rtf, default_face, lists).Rewrite();
+RewrittenRtf RewriteRtf(std::string_view rtf, std::wstring_view default_face) {
+    return Rewriter(rtf, default_face).Rewrite();
 }
 
 }  // namespace wordhawk

@@ -15,9 +15,6 @@ namespace {
 /// have come back to the text that the group left.
 constexpr int kStepsBeyond = 64;
 
-/// Wine's rich text box ends the process when a text around the marks of lists is edited.
-constexpr RtfLists kLists = RtfLists::AsText;
-
 /// A stretch of time in which the control's news are our own doing.
 class OwnEdit {
   public:
@@ -210,7 +207,7 @@ void DocumentPane::Paste() {
     if (const auto rtf = clipboard_.HasRichText() ? clipboard_.RichText() : std::nullopt) {
         if (LooksLikeRtf(*rtf)) {
             if (before_rich_text) before_rich_text();
-            const std::string rewritten = RewriteRtf(*rtf, look_.face, kLists).rtf;
+            const std::string rewritten = RewriteRtf(*rtf, look_.face).rtf;
             if (rtbW.SetRtf(rewritten, RichEdit::Into::Selection)) return;
         }
     }
@@ -267,7 +264,7 @@ void DocumentPane::LoadPlainText(DocumentText document) {
 }
 
 DocumentPane::Loaded DocumentPane::LoadRichText(std::string_view rtf) {
-    const RewrittenRtf rewritten = RewriteRtf(rtf, look_.face, kLists);
+    const RewrittenRtf rewritten = RewriteRtf(rtf, look_.face);
     Renew();
     rich_ = true;
     encoding_ = TextEncoding::Utf8;
