@@ -9,7 +9,7 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& 
     return app.add_subcommand(name, help)->group("Commands");
 }
 
-void AddCheck(CLI::App& app, Options& options) {
+void AddCheck(CLI::App& app, const GivenArguments& given, Options& options) {
     CheckOptions& check = options.check;
     CLI::App* const command = AddCommand(app, "check", "Print the unknown words of texts");
     command
@@ -34,27 +34,40 @@ void AddCheck(CLI::App& app, Options& options) {
         ->excludes(count);
     list->excludes(json)->excludes(count);
     json->excludes(count);
-    command
-        ->add_option("--max-suggestions", check.max_suggestions,
-                     "Suggestions shown for a word, 0 for all (default 5)")
-        ->type_name("N")
-        ->check(Between(0, 1000000));
-    command->add_flag_callback(
-        "--no-suggestions", [&check] { check.suggestions = false; }, "Do not look for suggestions");
-    command->add_flag("--exit-zero", check.exit_zero,
-                      "Exit with 0 even when there are unknown words");
-    command
-        ->add_option("-j,--jobs", check.jobs,
-                     "Texts, and blocks of a large text, checked at the same time (default 1)")
-        ->type_name("N")
-        ->check(Between(1, 256));
-    OneValueEachTime(*command, "--ignore-words", check.ignored_lists,
-                     "Do not report the words of this list, one a line")
-        ->type_name("FILE");
-    command->add_flag_callback(
-        "--no-project-words", [&check] { check.project_words = false; },
-        "Leave the lists called .wordhawk-words alone: those in a text's folder (the current one "
-        "for standard input) and above it, up to the root of its git repository");
+    if (given.MayHaveOption("--max-suggestions")) {
+        command
+            ->add_option("--max-suggestions", check.max_suggestions,
+                         "Suggestions shown for a word, 0 for all (default 5)")
+            ->type_name("N")
+            ->check(Between(0, 1000000));
+    }
+    if (given.MayHaveOption("--no-suggestions")) {
+        command->add_flag_callback(
+            "--no-suggestions", [&check] { check.suggestions = false; },
+            "Do not look for suggestions");
+    }
+    if (given.MayHaveOption("--exit-zero")) {
+        command->add_flag("--exit-zero", check.exit_zero,
+                          "Exit with 0 even when there are unknown words");
+    }
+    if (given.MayHaveOption("--jobs", 'j')) {
+        command
+            ->add_option("-j,--jobs", check.jobs,
+                         "Texts, and blocks of a large text, checked at the same time (default 1)")
+            ->type_name("N")
+            ->check(Between(1, 256));
+    }
+    if (given.MayHaveOption("--ignore-words")) {
+        OneValueEachTime(*command, "--ignore-words", check.ignored_lists,
+                         "Do not report the words of this list, one a line")
+            ->type_name("FILE");
+    }
+    if (given.MayHaveOption("--no-project-words")) {
+        command->add_flag_callback(
+            "--no-project-words", [&check] { check.project_words = false; },
+            "Leave the lists called .wordhawk-words alone: those in a text's folder (the current "
+            "one for standard input) and above it, up to the root of its git repository");
+    }
     command->footer(
         "Prints FILE:LINE:COLUMN: WORD -> SUGGESTION (SCORE%), ... for each unknown word.\n"
         "Exit code: 0 no unknown word, 1 some, 2 error.\n\nExamples:\n"
@@ -65,7 +78,7 @@ void AddCheck(CLI::App& app, Options& options) {
         "  wordhawk-cli check -j 4 --count corpus.txt > unknown.tsv");
 }
 
-void AddSuggest(CLI::App& app, Options& options) {
+void AddSuggest(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const suggest = AddCommand(app, "suggest", "Print suggestions for words");
     suggest->add_option("WORD", options.words.words, "Words")->type_name("");
     suggest->add_flag("--stdin", options.words.from_input,
@@ -77,7 +90,7 @@ void AddSuggest(CLI::App& app, Options& options) {
         "  wordhawk-cli check --list draft.txt | wordhawk-cli suggest --stdin");
 }
 
-void AddExplain(CLI::App& app, Options& options) {
+void AddExplain(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const explain =
         AddCommand(app, "explain", "Tell how a candidate measures up to a word, and what drops it");
     explain->add_option("WORD", options.explain.word, "Word as typed")->type_name("")->required();
@@ -90,7 +103,7 @@ void AddExplain(CLI::App& app, Options& options) {
         "  wordhawk-cli --set SortBy=2 explain --json teh the");
 }
 
-void AddKey(CLI::App& app, Options& options) {
+void AddKey(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const key = AddCommand(app, "key", "Print dictionary file and phonetic key of words");
     key->add_option("WORD", options.words.words, "Words")->type_name("");
     key->add_flag("--stdin", options.words.from_input,
@@ -100,7 +113,7 @@ void AddKey(CLI::App& app, Options& options) {
         "  wordhawk-cli key hello\n  wordhawk-cli key --stdin < words.txt");
 }
 
-void AddAdd(CLI::App& app, Options& options) {
+void AddAdd(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const add = AddCommand(app, "add", "Add words to a dictionary");
     add->add_option("WORD", options.add.words, "Words")->type_name("")->required();
     CLI::Option* const to_main =
@@ -116,7 +129,7 @@ void AddAdd(CLI::App& app, Options& options) {
         "Ostrowska");
 }
 
-void AddRemove(CLI::App& app, Options& options) {
+void AddRemove(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const remove = AddCommand(app, "remove", "Remove words from the dictionaries");
     remove->add_option("WORD", options.words.words, "Words")->type_name("")->required();
     remove->footer(
@@ -126,7 +139,7 @@ void AddRemove(CLI::App& app, Options& options) {
         "  wordhawk-cli remove spellchecker");
 }
 
-void AddForbid(CLI::App& app, Options& options) {
+void AddForbid(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const forbid =
         AddCommand(app, "forbid", "Flag a word always, and suggest what is preferred to it");
     forbid->add_option("WORD", options.forbid.words, "The word, then those preferred to it")
@@ -138,7 +151,7 @@ void AddForbid(CLI::App& app, Options& options) {
         "  wordhawk-cli forbid --remove teh");
 }
 
-void AddImport(CLI::App& app, Options& options) {
+void AddImport(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const import =
         AddCommand(app, "import", "Make a custom dictionary of a file's new words");
     import->add_flag("-q,--quiet", options.import.quiet, "Say nothing about what was done");
@@ -154,7 +167,7 @@ void AddImport(CLI::App& app, Options& options) {
         "  wordhawk-cli import medical.dic\n  wordhawk-cli --flag 250=0 import names.dic");
 }
 
-void AddDictionaries(CLI::App& app, Options& options) {
+void AddDictionaries(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const list = AddCommand(app, "dictionaries", "List main and custom dictionaries");
     list->add_option("--activate", options.activate,
                      "First make this custom dictionary one that is searched")
@@ -165,7 +178,7 @@ void AddDictionaries(CLI::App& app, Options& options) {
         "  wordhawk-cli dictionaries\n  wordhawk-cli dictionaries --activate MEDICAL.DIC");
 }
 
-void AddBuildDictionary(CLI::App& app, Options& options) {
+void AddBuildDictionary(CLI::App& app, const GivenArguments&, Options& options) {
     CLI::App* const build =
         AddCommand(app, "build-dictionary", "Write main dictionary files from word lists");
     build->add_option("WORDLIST", options.build.word_lists, "Lists, one word a line, UTF-8 or ANSI")
@@ -219,7 +232,7 @@ void AddBuildDictionary(CLI::App& app, Options& options) {
         "  wordhawk-cli build-dictionary --output 1035 --pieces --hunspell fi_FI.dic");
 }
 
-void AddPipe(CLI::App& app, Options&) {
+void AddPipe(CLI::App& app, const GivenArguments&, Options&) {
     CLI::App* const pipe =
         AddCommand(app, "pipe", "Speak the line protocol of ispell -a, for editors (also: -a)");
     pipe->footer(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/given_arguments.h"
 #include "cli/options.h"
 
 #include <span>
@@ -15,8 +16,8 @@ namespace wordhawk {
 struct CommandRow {
     std::string_view name;
     Command command;
-    /// Describes it to the library, and where the values go.
-    void (*add)(CLI::App& app, Options& options);
+    /// Describes it to the library as far as it may be given, and where the values go.
+    void (*add)(CLI::App& app, const GivenArguments& given, Options& options);
 };
 
 /// All of them, in the order of the help.

@@ -2,6 +2,7 @@
 
 #include "app/version.h"
 #include "cli/command_grammar.h"
+#include "cli/given_arguments.h"
 #include "cli/option_kinds.h"
 #include "cli/output.h"
 
@@ -17,29 +18,8 @@ struct RawOverrides {
     std::vector<std::string> flags;
 };
 
-/// Which commands a description of the command line is to have. All of them take as long to
-/// describe as a short text to check.
-class WantedCommands {
-  public:
-    /// All.
-    WantedCommands() = default;
-    /// Those that the arguments can mean: no other word is one, and only the help names others.
-    explicit WantedCommands(const std::vector<std::string>& arguments) : arguments_(&arguments) {
-        const auto may_ask_for_help = [](const std::string& argument) {
-            return argument.starts_with('-') && argument.find('h') != std::string::npos;
-        };
-        if (std::any_of(arguments.begin(), arguments.end(), may_ask_for_help)) arguments_ = nullptr;
-    }
-    bool Has(std::string_view command) const {
-        return arguments_ == nullptr ||
-               std::find(arguments_->begin(), arguments_->end(), command) != arguments_->end();
-    }
-
-  private:
-    const std::vector<std::string>* arguments_ = nullptr;
-};
-
-void AddGlobalOptions(CLI::App& app, GlobalOptions& global, RawOverrides& raw) {
+void AddGlobalOptions(CLI::App& app, const GivenArguments& given, GlobalOptions& global,
+                      RawOverrides& raw) {
     app.add_option("--data", global.data_folder, "Data folder (default: the user's own)")
         ->type_name("DIR");
     app.add_option("--locale", global.locale,
@@ -47,29 +27,42 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& global, RawOverrides& raw) {
                    "the data folder has stored goes before it")
         ->type_name("N")
         ->check(Between(1, 65535));
-    OneValueEachTime(app, "--set", raw.settings, "Use VALUE for setting KEY in this run")
-        ->type_name("KEY=VALUE");
-    OneValueEachTime(app, "--flag", raw.flags,
-                     "Use 0 or 1 for delimiter flag N (1 to 255) in this run")
-        ->type_name("N=0|1");
-    app.add_option_function<std::string>(
-           "--search",
-           [&global](const std::string& search) {
-               global.search = search == "wide" ? SearchChoice::Wide : SearchChoice::File;
-           },
-           "Where suggestions come from: wide, the whole dictionary (default), or file, the one "
-           "file of the word's beginning")
-        ->type_name("wide|file")
-        ->check(CLI::IsMember({"wide", "file"}).description(""));
-    app.add_flag_callback(
-        "--classic", [&global] { global.behaviour = Behaviour::Classic; },
-        "Use 0 for the settings that go beyond the classic behaviour: WideSearch, "
-        "StraightApostrophe, Compounds and LettersStay, which are 1 here unless set");
-    app.add_flag_callback(
-        "--no-install", [&global] { global.install = false; },
-        "Do not copy shipped dictionaries and language files into the data folder");
-    app.set_version_flag("--version", "wordhawk-cli " WORDHAWK_VERSION,
-                         "Print the version and exit");
+    if (given.MayHaveOption("--set")) {
+        OneValueEachTime(app, "--set", raw.settings, "Use VALUE for setting KEY in this run")
+            ->type_name("KEY=VALUE");
+    }
+    if (given.MayHaveOption("--flag")) {
+        OneValueEachTime(app, "--flag", raw.flags,
+                         "Use 0 or 1 for delimiter flag N (1 to 255) in this run")
+            ->type_name("N=0|1");
+    }
+    if (given.MayHaveOption("--search")) {
+        app.add_option_function<std::string>(
+               "--search",
+               [&global](const std::string& search) {
+                   global.search = search == "wide" ? SearchChoice::Wide : SearchChoice::File;
+               },
+               "Where suggestions come from: wide, the whole dictionary (default), or file, the "
+               "one "
+               "file of the word's beginning")
+            ->type_name("wide|file")
+            ->check(CLI::IsMember({"wide", "file"}).description(""));
+    }
+    if (given.MayHaveOption("--classic")) {
+        app.add_flag_callback(
+            "--classic", [&global] { global.behaviour = Behaviour::Classic; },
+            "Use 0 for the settings that go beyond the classic behaviour: WideSearch, "
+            "StraightApostrophe, Compounds and LettersStay, which are 1 here unless set");
+    }
+    if (given.MayHaveOption("--no-install")) {
+        app.add_flag_callback(
+            "--no-install", [&global] { global.install = false; },
+            "Do not copy shipped dictionaries and language files into the data folder");
+    }
+    if (given.MayHaveOption("--version")) {
+        app.set_version_flag("--version", "wordhawk-cli " WORDHAWK_VERSION,
+                             "Print the version and exit");
+    }
 }
 
 std::optional<int> WholeNumber(std::string_view text) {
@@ -113,15 +106,15 @@ ParsedCommandLine Wrong(const std::string& message) {
 /// The library's description of the command line, and the values that it fills.
 class CommandLineParser::Grammar {
   public:
-    explicit Grammar(const WantedCommands& wanted) {
+    explicit Grammar(const GivenArguments& given) {
         app_.allow_windows_style_options(false);  // "/x" is a path on every system
         app_.require_subcommand(1);
         app_.fallthrough();
         app_.get_formatter()->column_width(28);
         app_.get_formatter()->label("SUBCOMMAND", "COMMAND");
-        AddGlobalOptions(app_, options_.global, raw_);
+        AddGlobalOptions(app_, given, options_.global, raw_);
         for (const CommandRow& row : CommandRows()) {
-            if (wanted.Has(row.name)) row.add(app_, options_);
+            if (given.MayHaveCommand(row.name)) row.add(app_, given, options_);
         }
         app_.footer(
             "Each command has its own --help. Exit code: 0 fine, 1 unknown words found, 2 "
@@ -165,7 +158,7 @@ class CommandLineParser::Grammar {
         "wordhawk-cli"};
 };
 
-CommandLineParser::CommandLineParser() : grammar_(std::make_unique<Grammar>(WantedCommands())) {}
+CommandLineParser::CommandLineParser() : grammar_(std::make_unique<Grammar>(GivenArguments())) {}
 
 CommandLineParser::~CommandLineParser() = default;
 
@@ -174,7 +167,7 @@ ParsedCommandLine CommandLineParser::Parse(const std::vector<std::string>& argum
 }
 
 ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
-    return CommandLineParser::Grammar(WantedCommands(arguments)).Parse(arguments);
+    return CommandLineParser::Grammar(GivenArguments(arguments)).Parse(arguments);
 }
 
 }  // namespace wordhawk

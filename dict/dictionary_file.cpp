@@ -70,28 +70,32 @@ const char* BehindNextLineFeed(const char* at, const char* end) {
 
 bool HoldsPattern(std::string_view bytes, std::string_view pattern) {
     if (bytes.size() < pattern.size()) return false;
-    // Two bytes of the pattern are looked for in many places at once, which a compiler does for
-    // several in one step; where both stand, the whole is compared. The words of a file begin
-    // alike, so a late byte and one in the middle tell most.
+    // A few bytes of the pattern are looked for in many places at once, which a compiler does for
+    // several in one step; where all stand, the whole is compared. The words of a file begin alike,
+    // so the bytes behind the middle tell most.
     constexpr std::size_t kPlaces = 64;
-    const std::size_t late = pattern.size() >= 2 ? pattern.size() - 2 : 0;
-    const std::size_t middle = pattern.size() / 2;
+    const std::array<std::size_t, 3> picked = {pattern.size() / 2,
+                                               std::min(pattern.size() / 2 + 1, pattern.size() - 1),
+                                               pattern.size() >= 2 ? pattern.size() - 2 : 0};
     const std::size_t places = bytes.size() - pattern.size() + 1;
     const auto stands_at = [&](std::size_t place) {
         return std::memcmp(bytes.data() + place, pattern.data(), pattern.size()) == 0;
     };
     std::size_t start = 0;
     for (; places - start >= kPlaces; start += kPlaces) {
-        const char* const lates = bytes.data() + start + late;
-        const char* const middles = bytes.data() + start + middle;
-        unsigned char both = 0;
+        const char* const a = bytes.data() + start + picked[0];
+        const char* const b = bytes.data() + start + picked[1];
+        const char* const c = bytes.data() + start + picked[2];
+        unsigned char least_difference = 255;
         for (std::size_t i = 0; i < kPlaces; ++i) {
-            both |= static_cast<unsigned char>((lates[i] == pattern[late]) &
-                                               (middles[i] == pattern[middle]));
+            const auto difference = static_cast<unsigned char>((a[i] ^ pattern[picked[0]]) |
+                                                               (b[i] ^ pattern[picked[1]]) |
+                                                               (c[i] ^ pattern[picked[2]]));
+            least_difference = std::min(least_difference, difference);
         }
-        if (both == 0) continue;
+        if (least_difference != 0) continue;
         for (std::size_t i = 0; i < kPlaces; ++i) {
-            if (lates[i] == pattern[late] && stands_at(start + i)) return true;
+            if (c[i] == pattern[picked[2]] && stands_at(start + i)) return true;
         }
     }
     while (start < places && !stands_at(start)) ++start;

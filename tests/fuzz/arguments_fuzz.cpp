@@ -58,6 +58,18 @@ TEST(ArgumentsFuzz, GiveAnOrderOrAMessage) {
                                              std::string(300, 'x'),
                                              "--main",
                                              "--custom",
+                                             "--jobs",
+                                             "--jobs=2",
+                                             "-lj4",
+                                             "--exit-zero",
+                                             "--max-suggestions",
+                                             "--no-suggestions",
+                                             "--ignore-words",
+                                             "--no-project-words",
+                                             "--search",
+                                             "wide",
+                                             "--classic",
+                                             "--no-install",
                                              "%s%n"};
     CommandLineParser parser;
     for (std::uint32_t round = 0; round < test::Rounds(); ++round) {
