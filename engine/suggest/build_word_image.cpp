@@ -3,12 +3,12 @@
 #include "dict/dictionary_file.h"
 #include "dict/lines.h"
 #include "dict/phonetic_key.h"
+#include "engine/suggest/logarithm.h"
 #include "engine/suggest/word_skeletons.h"
 #include "engine/suggest/word_traits.h"
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <cstring>
 #include <span>
 #include <type_traits>
@@ -33,9 +33,9 @@ Commonness ReadCommonness(const Path& file, const AnsiCodePage& page) {
         const std::string_view digits = line.substr(blank + 1);
         std::uint64_t count = 0;
         std::from_chars(digits.data(), digits.data() + digits.size(), count);
-        const double nats = std::log((static_cast<double>(count) + kChance) / kChance);
-        commonness[page.Encode(FromUtf8(line.substr(0, blank)))] = static_cast<std::uint8_t>(
-            std::min(255.0, std::round(nats * WordImage::kStepsOfCommonness)));
+        const double nats = NaturalLog((static_cast<double>(count) + kChance) / kChance);
+        commonness[page.Encode(FromUtf8(line.substr(0, blank)))] =
+            static_cast<std::uint8_t>(std::min(255.0, nats * WordImage::kStepsOfCommonness + 0.5));
     });
     return commonness;
 }

@@ -4,12 +4,12 @@
 #include "engine/suggest/edit_costs.h"
 #include "engine/suggest/edit_path.h"
 #include "engine/suggest/language_words.h"
+#include "engine/suggest/logarithm.h"
 #include "engine/suggest/near_distance.h"
 #include "engine/suggest/word_skeletons.h"
 #include "engine/suggest/word_traits.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace wordhawk {
 namespace {
@@ -43,7 +43,8 @@ constexpr float kCommonPart = 6;
 
 int ScoreOf(float cost) {
     constexpr float kScale = 24;
-    return std::clamp(static_cast<int>(std::lround(100 * std::exp(-cost / kScale))), 1, 99);
+    return std::clamp(static_cast<int>(100 * PowerOfMinus(std::max(cost, 0.0F) / kScale) + 0.5), 1,
+                      99);
 }
 
 /// A word within reach, before its cost is known.

@@ -2,6 +2,7 @@
 
 #include "engine/suggest/edit_costs.h"
 #include "engine/suggest/edit_path.h"
+#include "engine/suggest/logarithm.h"
 #include "engine/suggest/near_distance.h"
 #include "engine/suggest/suggester.h"
 #include "engine/suggest/word_skeletons.h"
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <set>
 
@@ -24,6 +26,18 @@ std::vector<std::wstring> WordsOf(const Suggestions& found) {
     std::vector<std::wstring> words;
     for (const Suggestion& suggestion : found.list) words.push_back(suggestion.word);
     return words;
+}
+
+TEST(Logarithm, IsTheLibrarysToFourteenDigits) {
+    for (double x = 1; x < 1e18; x *= 1.000731) {
+        ASSERT_NEAR(NaturalLog(x), std::log(x), 1e-14 * (1 + std::log(x))) << x;
+    }
+    EXPECT_EQ(NaturalLog(1), 0);
+    for (double x = 0; x < 700; x += 0.01037) {
+        ASSERT_NEAR(PowerOfMinus(x), std::exp(-x), 1e-13 * std::exp(-x)) << x;
+    }
+    EXPECT_EQ(PowerOfMinus(0), 1);
+    EXPECT_EQ(PowerOfMinus(1e30), 0);
 }
 
 /// The distance by its whole matrix.
