@@ -25,18 +25,14 @@ void PrepareFolders(ProgramState& state) {
     const Path dictionaries = state.DataFolder / "Dictionarys";
     const Path resources = state.ResourcesFolder();
     const Path language = PathFromText(state.LanguageId);
-    for (const Path& folder : {
-             dictionaries,
-             state.CustomFolder(),
-             dictionaries / language,
-             dictionaries / "1033",
-             resources,
-             resources / "1033",
-             resources / language,
-             state.DataFolder / "Sounds",
-             state.DataFolder / "Saves",
-         }) {
+    const Path english = "1033";
+    for (const Path& folder : {state.CustomFolder(), dictionaries / english, resources / english,
+                               state.DataFolder / "Sounds", state.DataFolder / "Saves"}) {
         MakeFolder(folder);
+    }
+    if (language != english) {
+        MakeFolder(dictionaries / language);
+        MakeFolder(resources / language);
     }
     state.LanguageDictFolder = dictionaries / language;
     // The interface language is chosen by the caller, since its texts are a layer above this one.

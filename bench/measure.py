@@ -47,15 +47,18 @@ def best(command, times=5, allowed=(0, 1), **options):
     return min(runs, key=lambda one: one.cpu)
 
 
-def median(command, times, allowed=(0, 1), **options):
-    """Medians of wall and processor time of many short runs, in seconds; the first, cold one is dropped."""
-    runs = []
+def medians(commands, times, allowed=(0, 1), **options):
+    """Medians of wall and processor time, in seconds, of many short runs of each command, which take turns: the
+    machine may be faster now and slower then. The first, cold run of each is dropped."""
+    runs = [[] for _ in commands]
     for _ in range(times + 1):
-        one = run(command, **options)
-        if one.status not in allowed:
-            raise SystemExit(f"exit status {one.status}: {' '.join(map(str, command))}")
-        runs.append(one)
-    return statistics.median(one.wall for one in runs[1:]), statistics.median(one.cpu for one in runs[1:])
+        for command, of_command in zip(commands, runs):
+            one = run(command, **options)
+            if one.status not in allowed:
+                raise SystemExit(f"exit status {one.status}: {' '.join(map(str, command))}")
+            of_command.append(one)
+    return [(statistics.median(one.wall for one in of_command[1:]), statistics.median(one.cpu for one in of_command[1:]))
+            for of_command in runs]
 
 
 def machine():

@@ -31,6 +31,11 @@ Program::Program(ProgramOptions options, UiServices& services)
     PrepareFolders(state);
     // Whoever made this says so and ends; what follows would go into the current folder.
     if (!state.FoldersReady) return;
+    const Path program_folder = ProgramFolder();
+    if (options_.shipped_languages.empty())
+        options_.shipped_languages = ShippedFolder(program_folder, "languages");
+    if (options_.shipped_dictionaries.empty())
+        options_.shipped_dictionaries = ShippedFolder(program_folder, "dictionaries");
     std::optional<modSect::ProfileReader> settings_file(state.SettingsProfile());
     const std::wstring chosen = modRcLangs::ChosenLanguage(*settings_file);
     InstallLanguages(chosen);
@@ -96,18 +101,14 @@ void Program::OverrideLanguage() {
 
 void Program::InstallLanguages(std::wstring_view chosen) {
     if (!options_.install_shipped) return;
-    const Path shipped = options_.shipped_languages.empty()
-                             ? ShippedFolder(ProgramFolder(), "languages")
-                             : options_.shipped_languages;
+    const Path& shipped = options_.shipped_languages;
     if (options_.install_every_language) InstallShippedLanguages(state, shipped);
     InstallShippedLanguage(state, shipped, modRcLangs::WantedLocale(state, chosen));
     if (const int locale = OverridingLocale()) InstallShippedLanguage(state, shipped, locale);
 }
 
 void Program::InstallDictionaries() {
-    const Path shipped = options_.shipped_dictionaries.empty()
-                             ? ShippedFolder(ProgramFolder(), "dictionaries")
-                             : options_.shipped_dictionaries;
+    const Path& shipped = options_.shipped_dictionaries;
     const int pack = ShippedPackOf(NumberOrZero(state.LanguageId));
     state.ShippedFrequencies =
         pack != 0 ? shipped / std::to_string(pack) / "frequencies.txt" : Path();
