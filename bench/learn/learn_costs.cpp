@@ -13,6 +13,7 @@
 #include "engine/suggest/edit_path.h"
 #include "engine/suggest/language_words.h"
 #include "engine/suggest/near_distance.h"
+#include "engine/suggest/wide_search.h"
 #include "engine/suggest/word_skeletons.h"
 #include "engine/suggest/word_traits.h"
 #include "platform/replace_file.h"
@@ -29,7 +30,6 @@ namespace {
 
 constexpr int kRounds = 2;
 constexpr double kStep = 0.15;
-constexpr float kTop = 17;  // as in wide_search.cpp
 constexpr std::size_t kPairsPerStep = 16;
 /// Candidates that cost this much more than the cheapest before anything was learned, or that have
 /// so many cheaper ones, are not learned from.
@@ -49,11 +49,11 @@ struct Weight {
 class Model {
   public:
     Model(Properties properties, double sparsity) : properties_(properties), sparsity_(sparsity) {
-        const TraitWeights start = {0.5F, 0.5F, 1.5F, 0.6F, 0.9F, 1.5F, 0.3F, 1, 1, 0.5F};
+        const TraitWeights start = {0.5F, 0.5F, 1.5F, 0.6F, 0.9F, 1.5F, 0.3F, 1, 1, 0.5F, 0, 0};
         for (std::size_t i = 0; i < kTraits; ++i) traits[i].value = traits[i].initial = start[i];
         if (properties == Properties::Generic) {
-            // The sounds are those of English.
-            traits[static_cast<std::size_t>(Trait::Sound)] = {};
+            for (std::size_t i = 0; i < kTraits; ++i)
+                if (IsOfEnglish(i)) traits[i] = {};
         }
     }
 
@@ -82,9 +82,7 @@ class Model {
         for (std::size_t i = 0; i < known.count; ++i) Touch(*known.weights[i], gradient);
     }
     void AddTraitGradient(std::size_t trait, double gradient) {
-        const bool unused =
-            properties_ == Properties::Generic && trait == static_cast<std::size_t>(Trait::Sound);
-        if (!unused) Touch(traits[trait], gradient);
+        if (properties_ == Properties::All || !IsOfEnglish(trait)) Touch(traits[trait], gradient);
     }
 
     /// Moves every weight that has a gradient, the rare ones further; what brings little goes back
@@ -116,6 +114,13 @@ class Model {
         std::uint32_t round = 0;
     };
 
+    /// The sounds are those of English, and so is how common its common words are.
+    static bool IsOfEnglish(std::size_t trait) {
+        constexpr std::array kEnglish = {Trait::Sound, Trait::SoundEdits, Trait::FirstRarity};
+        return std::find(kEnglish.begin(), kEnglish.end(), static_cast<Trait>(trait)) !=
+               kEnglish.end();
+    }
+
     void Touch(Weight& weight, double gradient) {
         if (weight.gradient == 0) touched_.push_back(&weight);
         weight.gradient += gradient;
@@ -139,7 +144,7 @@ class Learner {
     explicit Learner(LanguageWords& words, const AnsiCodePage& page)
         : words_(words), image_(words.Image()), page_(page), letters_(letters::OfPage(page)) {}
 
-    std::vector<Pair> Read(const char* file, double& reachable) {
+    std::vector<Pair> Read(const char* file, Properties properties, double& reachable) {
         std::vector<Pair> pairs;
         const auto bytes = ReadWholeFile(file);
         if (!bytes) throw std::runtime_error(std::string("cannot read ") + file);
@@ -153,12 +158,9 @@ class Learner {
             const std::string right = page_.Encode(FromUtf8(line.substr(tab + 1)));
             ++all;
             Pair pair{page_.Encode(FromUtf8(line.substr(0, tab))), {}, 0};
-            Gather(pair);
-            const auto found =
-                std::find_if(pair.candidates.begin(), pair.candidates.end(),
-                             [&](std::uint32_t i) { return image_.Word(i) == right; });
-            if (found == pair.candidates.end()) continue;
-            pair.right = static_cast<std::size_t>(found - pair.candidates.begin());
+            Gather(pair, right, properties);
+            pair.right = PlaceOf(right, pair);
+            if (pair.right == pair.candidates.size()) continue;
             Prune(pair);
             pairs.push_back(std::move(pair));
         }
@@ -182,33 +184,47 @@ class Learner {
     }
 
   private:
-    /// The words that the search would weigh, at most three edits away; three are for pairs that
-    /// have nothing nearer.
-    void Gather(Pair& pair) {
+    std::size_t PlaceOf(std::string_view word, const Pair& pair) const {
+        const auto& all = pair.candidates;
+        const auto is_it = [&](std::uint32_t i) { return image_.Word(i) == word; };
+        return static_cast<std::size_t>(std::find_if(all.begin(), all.end(), is_it) - all.begin());
+    }
+
+    /// What the search would weigh: words further away where the right one is, or, of all
+    /// alphabets, where none is one edit away, which ranks slips in other languages better.
+    void Gather(Pair& pair, std::string_view right, Properties properties) {
+        const int least = GatherWithin(pair, 2);
+        if (properties == Properties::All) {
+            if (PlaceOf(right, pair) == pair.candidates.size())
+                GatherWithin(pair, WideSearch::MostEdits(pair.written.size()));
+        } else if (least > 1 && pair.written.size() >= 5) {
+            GatherWithin(pair, 3);
+        }
+    }
+
+    /// Words of a similar beginning at most so many edits away; returns the fewest edits.
+    int GatherWithin(Pair& pair, int most) {
+        int least = most + 1;
         const NearDistance distance(pair.written);
         const std::uint32_t own = LetterGroups(pair.written);
         std::array<std::uint32_t, skeletons::kMost> buckets;
         const std::size_t count =
             skeletons::BucketsOf(skeletons::PrefixOf(pair.written), image_.BucketBits(), buckets);
-        bool one_edit = false;
-        image_.ForEachNearRange(
-            {buckets.data(), count}, [&](std::uint32_t, std::uint32_t i, std::uint32_t last) {
-                for (; i < last; ++i) {
-                    const std::uint32_t groups = image_.Groups(i);
-                    if (std::popcount(groups & ~own) > 3 || std::popcount(own & ~groups) > 3)
-                        continue;
-                    const int edits = distance.To(image_.Word(i));
-                    if (edits > 3 || edits == 0) continue;
-                    one_edit = one_edit || edits == 1;
-                    pair.candidates.push_back(i);
-                }
-            });
+        pair.candidates.clear();
+        image_.ForEachNearRange({buckets.data(), count},
+                                [&](std::uint32_t, std::uint32_t i, std::uint32_t last) {
+                                    for (; i < last; ++i) {
+                                        if (LeastEdits(own, image_.Groups(i)) > most) continue;
+                                        const int edits = distance.To(image_.Word(i), most);
+                                        if (edits > most || edits == 0) continue;
+                                        least = std::min(least, edits);
+                                        pair.candidates.push_back(i);
+                                    }
+                                });
         std::sort(pair.candidates.begin(), pair.candidates.end());
         pair.candidates.erase(std::unique(pair.candidates.begin(), pair.candidates.end()),
                               pair.candidates.end());
-        if (!one_edit && pair.written.size() >= 5) return;
-        std::erase_if(pair.candidates,
-                      [&](std::uint32_t i) { return distance.To(image_.Word(i)) > 2; });
+        return least;
     }
 
     void Prune(Pair& pair) {
@@ -236,7 +252,7 @@ class Learner {
                OnTraits on_traits) {
         EditPath<Model> path(model);
         const Spelling written = SpellingOf(pair.written, letters_);
-        const WordSounds sounds(written);
+        const WrittenSounds sounds(written);
         costs.clear();
         for (std::size_t c = 0; c < pair.candidates.size(); ++c) {
             const std::uint32_t word = pair.candidates[c];
@@ -244,8 +260,8 @@ class Learner {
             double cost = path.Cost(meant, written);
             path.ForEachEdit([&](const Edit& edit) { on_edit(c, edit); });
             TraitValues values = CompareWords(meant, written, sounds);
-            values[static_cast<std::size_t>(Trait::Rarity)] =
-                kTop - static_cast<float>(image_.Commonness(word)) / WordImage::kStepsOfCommonness;
+            SetRarity(values,
+                      static_cast<float>(image_.Commonness(word)) / WordImage::kStepsOfCommonness);
             for (std::size_t i = 0; i < kTraits; ++i)
                 cost += static_cast<double>(model.traits[i].value * values[i]);
             on_traits(c, values);
@@ -345,26 +361,23 @@ void Run(char** arguments) {
     Progress none;
     words.Refresh(none);
     Learner learner(words, *state.CodePage);
-    double reachable = 0;
-    const std::vector<Pair> pairs = learner.Read(arguments[1], reachable);
-    const std::vector<Pair> tune = learner.Read(arguments[2], reachable);
-    std::printf("%zu pairs to learn from, %zu to tune on\n", pairs.size(), tune.size());
-    constexpr double kSparsity = 0.004;  // of the table with letters
-    for (const Properties properties : {Properties::Generic, Properties::All}) {
-        Model model(properties, properties == Properties::All ? kSparsity : 0);
-        learner.Learn(model, pairs, tune, reachable);
-    }
-    std::vector<Pair> both = pairs;
-    both.insert(both.end(), tune.begin(), tune.end());
+    constexpr double kSparsity = 0.002;  // of the table with letters
     std::string text =
         "// Written by bench/learn/learn.py from pairs of misspelling and word; not to be edited.\n"
         "// clang-format off\n";
-    Model generic(Properties::Generic, 0);
-    learner.Learn(generic, both, {}, 0);
-    text += TableText(generic, "Generic");
-    Model all(Properties::All, kSparsity);
-    learner.Learn(all, both, {}, 0);
-    text += TableText(all, "English");
+    for (const Properties properties : {Properties::Generic, Properties::All}) {
+        double reachable = 0;
+        std::vector<Pair> pairs = learner.Read(arguments[1], properties, reachable);
+        const std::vector<Pair> tune = learner.Read(arguments[2], properties, reachable);
+        std::printf("%zu pairs to learn from, %zu to tune on\n", pairs.size(), tune.size());
+        const double sparsity = properties == Properties::All ? kSparsity : 0;
+        Model judged(properties, sparsity);
+        learner.Learn(judged, pairs, tune, reachable);
+        pairs.insert(pairs.end(), tune.begin(), tune.end());
+        Model model(properties, sparsity);
+        learner.Learn(model, pairs, {}, 0);
+        text += TableText(model, properties == Properties::All ? "English" : "Generic");
+    }
     text += "// clang-format on\n";
     if (!ReplaceFileContents(arguments[3], text))
         throw std::runtime_error("the table cannot be written");

@@ -3,6 +3,7 @@
 #include "engine/suggest/edit.h"
 #include "engine/suggest/word_traits.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <span>
@@ -30,6 +31,13 @@ const LearnedTable& LearnedTableFor(int locale);
 /// Whether the table tells words by how they are read aloud.
 inline bool KnowsSounds(const LearnedTable& table) {
     return table.traits[static_cast<std::size_t>(Trait::Sound)] > 0;
+}
+
+/// What the rarity of a word costs.
+inline float CostOfRarity(const LearnedTable& table, float commonness) {
+    const float rarity = kCommonest - commonness;
+    return table.traits[static_cast<std::size_t>(Trait::Rarity)] * rarity +
+           table.traits[static_cast<std::size_t>(Trait::FirstRarity)] * std::min(rarity, kUncommon);
 }
 
 /// Costs of edits from a table, each computed once. Not to be shared between threads.

@@ -7,13 +7,15 @@
 namespace wordhawk {
 
 /// Counts the edits (a character dropped, inserted, mistaken, or two neighbours swapped, none of
-/// them edited twice) between one word of at most 64 bytes and any other, one step a byte.
+/// them edited twice) between one word of at most kLongest bytes and any other, one step a byte.
 class NearDistance {
   public:
+    static constexpr int kLongest = 64;
+
     explicit NearDistance(std::string_view word);
 
     /// The edits; some number above `most` when they are more than that.
-    int To(std::string_view other, int most = 2 * 64) const {
+    int To(std::string_view other, int most = 2 * kLongest) const {
         if (size_ == 0) return static_cast<int>(other.size());
         // Bit i of a row: what changes from character i of the word to the next.
         std::uint64_t up = ~std::uint64_t{0};

@@ -31,8 +31,6 @@ constexpr float kWorthReading = 9;
 
 /// Commonness of words that the user added, as if they had been counted.
 constexpr float kCustomCommonness = 5;
-/// Commonness of the commonest words.
-constexpr float kTop = 17;
 /// Costs of leaving out the blank between two words; one letter is joined most often (alot, abit).
 constexpr float kJoin = 7;
 constexpr float kJoinToLetter = 5;
@@ -136,7 +134,7 @@ class WideSearch::Search {
         const Spelling meant = parts_.Spell(word);
         account.sounds_alike = SoundsAlike(meant);
         account.edits = CostOfEdits(meant, EditPath<EditCosts>::kNoWay);
-        account.rarity = Weight(Trait::Rarity) * (kTop - commonness);
+        account.rarity = RarityCost(commonness);
         account.traits = TraitCost(meant);
         account.score =
             word == bytes_ ? 100 : ScoreOf(account.edits + account.rarity + account.traits);
@@ -249,7 +247,7 @@ class WideSearch::Search {
             return;
         }
         const Spelling meant = parts_.Spell(word);
-        const float rarity = Weight(Trait::Rarity) * (kTop - commonness);
+        const float rarity = RarityCost(commonness);
         // A dearer way would neither be worth reading nor tell that the word is no poor one.
         const float most = std::max(best_ + kWorthReading - rarity, cheapest_edits_);
         const float edits = CostOfEdits(meant, most);
@@ -263,7 +261,7 @@ class WideSearch::Search {
         const Spelling meant = parts_.Spell(word);
         if (word == bytes_ || !SoundsAlike(meant)) return;
         const float edits = CostOfEdits(meant, EditPath<EditCosts>::kNoWay);
-        Keep(word, meant, edits + Weight(Trait::Rarity) * (kTop - commonness()));
+        Keep(word, meant, edits + RarityCost(commonness()));
     }
 
     /// Exact up to `most`.
@@ -298,9 +296,8 @@ class WideSearch::Search {
             const float second = first > 0 ? PartCommonness(bytes_.substr(cut)) : 0;
             if (second == 0) continue;
             const float pair = first + second - kPairRarity;
-            found_.push_back(
-                {(cut == 1 ? kJoinToLetter : kJoin) + Weight(Trait::Rarity) * (kTop - pair),
-                 bytes_.substr(0, cut) + ' ' + bytes_.substr(cut)});
+            found_.push_back({(cut == 1 ? kJoinToLetter : kJoin) + RarityCost(pair),
+                              bytes_.substr(0, cut) + ' ' + bytes_.substr(cut)});
         }
     }
 
@@ -355,9 +352,7 @@ class WideSearch::Search {
         return static_cast<float>(parts_.words.Image().Commonness(i)) /
                WordImage::kStepsOfCommonness;
     }
-    float Weight(Trait trait) const {
-        return parts_.table->traits[static_cast<std::size_t>(trait)];
-    }
+    float RarityCost(float commonness) const { return CostOfRarity(*parts_.table, commonness); }
     float TraitCost(const Spelling& meant) const {
         const TraitValues values = CompareWords(meant, written_, sounds_);
         float cost = 0;
@@ -368,7 +363,7 @@ class WideSearch::Search {
     Parts& parts_;
     std::string bytes_;
     Spelling written_;
-    WordSounds sounds_;
+    WrittenSounds sounds_;
     std::uint32_t groups_;
     NearDistance distance_;
     std::vector<Near> near_;

@@ -152,7 +152,7 @@ WordSounds::WordSounds(const Spelling& word) : sound(SoundOf(word)) {
 }
 
 TraitValues CompareWords(const Spelling& meant, const Spelling& written,
-                         const WordSounds& written_sounds) {
+                         const WrittenSounds& written_sounds) {
     TraitValues values{};
     const auto set = [&values](Trait trait, bool holds) {
         values[static_cast<std::size_t>(trait)] = holds ? 1.0F : 0.0F;
@@ -161,7 +161,11 @@ TraitValues CompareWords(const Spelling& meant, const Spelling& written,
     set(Trait::Consonants, sounds.consonants != written_sounds.consonants);
     set(Trait::FirstLetter, meant.At(0) != written.At(0));
     set(Trait::FinalS, EndsInS(meant) != EndsInS(written));
-    set(Trait::Sound, sounds.sound != written_sounds.sound);
+    const bool sounds_differ = sounds.sound != written_sounds.sound;
+    set(Trait::Sound, sounds_differ);
+    if (sounds_differ)
+        values[static_cast<std::size_t>(Trait::SoundEdits)] =
+            static_cast<float>(written_sounds.sound_distance.To(sounds.sound));
     set(Trait::LastLetter, meant.At(meant.size - 1) != written.At(written.size - 1));
     set(Trait::Letters, sounds.letters != written_sounds.letters);
     set(Trait::Vowels, sounds.vowels != written_sounds.vowels);

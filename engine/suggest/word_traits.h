@@ -1,10 +1,13 @@
 #pragma once
 
 #include "engine/suggest/edit_path.h"
+#include "engine/suggest/near_distance.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace wordhawk {
 
@@ -17,11 +20,19 @@ enum class Trait : std::uint8_t {
     Sound,       ///< they would be read aloud differently, by the rules of English
     Possessive,  ///< the word ends in 's
     LastLetter,
-    Letters,  ///< they are not made of the same letters
-    Vowels,   ///< their vowels differ, neighbouring equal ones taken once
-    Shorter,  ///< the word is shorter than what was written
+    Letters,      ///< they are not made of the same letters
+    Vowels,       ///< their vowels differ, neighbouring equal ones taken once
+    Shorter,      ///< the word is shorter than what was written
+    FirstRarity,  ///< Rarity, up to kUncommon
+    SoundEdits,   ///< how many edits their sounds are apart
 };
-inline constexpr std::size_t kTraits = 10;
+inline constexpr std::size_t kTraits = 12;
+
+/// Commonness of the commonest words, which have no Rarity.
+inline constexpr float kCommonest = 17;
+/// Writers mean an uncommon word less often than a common one, but a rare one hardly less often
+/// than that: from this Rarity on it costs less.
+inline constexpr float kUncommon = 6;
 
 using TraitWeights = std::array<float, kTraits>;
 using TraitValues = std::array<float, kTraits>;
@@ -40,8 +51,24 @@ struct WordSounds {
     explicit WordSounds(const Spelling& word);
 };
 
-/// The values of all traits but Rarity, which is 0.
+/// The keys of what was written, and how far the sounds of other words are from its own.
+struct WrittenSounds : WordSounds {
+    NearDistance sound_distance;
+
+    explicit WrittenSounds(const Spelling& written)
+        : WordSounds(written),
+          sound_distance(std::string_view(sound).substr(0, NearDistance::kLongest)) {}
+};
+
+/// The values of all traits but those of rarity, which are 0.
 TraitValues CompareWords(const Spelling& meant, const Spelling& written,
-                         const WordSounds& written_sounds);
+                         const WrittenSounds& written_sounds);
+
+/// Puts in the traits of rarity.
+inline void SetRarity(TraitValues& values, float commonness) {
+    const float rarity = kCommonest - commonness;
+    values[static_cast<std::size_t>(Trait::Rarity)] = rarity;
+    values[static_cast<std::size_t>(Trait::FirstRarity)] = std::min(rarity, kUncommon);
+}
 
 }  // namespace wordhawk
