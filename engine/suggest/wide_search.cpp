@@ -32,7 +32,7 @@ constexpr float kWorthReading = 9;
 /// Commonness of words that the user added, as if they had been counted.
 constexpr float kCustomCommonness = 5;
 /// Costs of leaving out the blank between two words; one letter is joined most often (alot, abit).
-constexpr float kJoin = 7;
+constexpr float kJoin = 8;
 constexpr float kJoinToLetter = 5;
 /// How much rarer two words in a row are than their product says of one.
 constexpr float kPairRarity = 20;
