@@ -36,29 +36,33 @@ def run(command, source=None, environment=None):
     return Run(*result.read_text().split())
 
 
-def best(command, times=5, allowed=(0, 1), **options):
-    """The run with the least processor time of several; ends the script when one fails."""
-    runs = []
+def in_turns(jobs, times, allowed=(0, 1)):
+    """`times` runs of each job, a command and the options of run(). They take turns: the machine may be faster now
+    and slower then."""
+    runs = [[] for _ in jobs]
     for _ in range(times):
-        one = run(command, **options)
-        if one.status not in allowed:
-            raise SystemExit(f"exit status {one.status}: {' '.join(map(str, command))}")
-        runs.append(one)
-    return min(runs, key=lambda one: one.cpu)
-
-
-def medians(commands, times, allowed=(0, 1), **options):
-    """Medians of wall and processor time, in seconds, of many short runs of each command, which take turns: the
-    machine may be faster now and slower then. The first, cold run of each is dropped."""
-    runs = [[] for _ in commands]
-    for _ in range(times + 1):
-        for command, of_command in zip(commands, runs):
+        for (command, options), of_job in zip(jobs, runs):
             one = run(command, **options)
             if one.status not in allowed:
                 raise SystemExit(f"exit status {one.status}: {' '.join(map(str, command))}")
-            of_command.append(one)
-    return [(statistics.median(one.wall for one in of_command[1:]), statistics.median(one.cpu for one in of_command[1:]))
-            for of_command in runs]
+            of_job.append(one)
+    return runs
+
+
+def best(command, times=5, allowed=(0, 1), **options):
+    """The run with the least processor time of several; ends the script when one fails."""
+    return best_of(in_turns([(command, options)], times, allowed)[0])
+
+
+def best_of(runs):
+    return min(runs, key=lambda one: one.cpu)
+
+
+def medians(commands, times, **options):
+    """Medians of wall and processor time, in seconds, of many short runs of each command. The first, cold run of
+    each is dropped."""
+    return [(statistics.median(one.wall for one in runs[1:]), statistics.median(one.cpu for one in runs[1:]))
+            for runs in in_turns([(command, options) for command in commands], times + 1)]
 
 
 def machine():
