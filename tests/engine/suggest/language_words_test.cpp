@@ -177,6 +177,10 @@ TEST_F(LanguageWordsTest, HostileNumbersDoNoHarm) {
         test::WriteBytes(cache, bad);
         WideSearch(data_.store).Find(L"aple");
         WideSearch(data_.store).Find(L"banannnas");
+        if (const auto table = MainTableFromImage(data_.state)) {
+            for (const char* const word : {"apple", "zzz"})
+                table->Holds(word, DictionaryFile::HashBytes(word));
+        }
     }
     EXPECT_GT(read, 100U);
 }
