@@ -53,7 +53,7 @@ bool FoundByHalvesIn(const Path& path, std::string_view word) {
     const auto file = PartialFile::Open(path);
     if (!file) return false;
     const std::string entry = std::string(word) + ',';
-    std::array<char, 4096> room;
+    std::array<char, 8192> room;
     // Both begin lines, the second as far as the file has not changed meanwhile.
     std::uint64_t low = 0;
     std::uint64_t high = file->Size();
